@@ -1,0 +1,194 @@
+#include "psu/SupplyMonitor.h"
+
+#include "psu/Logging.h"
+
+Q_LOGGING_CATEGORY(lcPsu, "zpsg.psu", QtInfoMsg)
+
+namespace zpsg::psu {
+
+using namespace std::chrono_literals;
+
+SupplyMonitor::SupplyMonitor(std::unique_ptr<HidBackend> backend, MonitorTiming timing, QObject *parent)
+    : QObject(parent), timing_(timing), link_(std::move(backend), timing.port) {
+    link_.onLateFinish(
+        [this] { QMetaObject::invokeMethod(this, &SupplyMonitor::lateFinish, Qt::QueuedConnection); });
+}
+
+bool SupplyMonitor::openAtStart() { return connectWith(OpenOrder::OpenFirst, true); }
+
+bool SupplyMonitor::connectPsu() { return connectWith(OpenOrder::InitialiseFirst, false); }
+
+bool SupplyMonitor::connectWith(OpenOrder order, bool atStart) {
+    reconnectAsked_ = false;
+    if (!connecting_) {
+        pass_.reset(); // an unfinished pass belongs to the handle that is about to be closed
+        rawPass_.reset();
+        connecting_ = std::make_shared<ConnectJob>(order);
+        link_.submit(connecting_);
+    }
+    if (!link_.wait(connecting_, timing_.patience)) {
+        return false;
+    }
+    const auto finished = std::exchange(connecting_, nullptr);
+    settle(finished->result(), atStart);
+    return path_ != Path::None;
+}
+
+void SupplyMonitor::settle(const Connected &result, bool atStart) {
+    path_ = result.path;
+    if (result.initialiseFailed && !atStart) {
+        emit message(QStringLiteral("hid_init"));
+    }
+    if (result.wakeUpFailed && atStart) {
+        emit message(QStringLiteral("hid_write NO"));
+    }
+    if (path_ == Path::None) {
+        qCDebug(lcPsu) << "!handle";
+        setState(result.presence == Presence::Absent ? LinkState::NoDevice : LinkState::NoPermission);
+        return;
+    }
+    // Until the first pass says otherwise a supply that opened is taken to be well.
+    setState(LinkState::Live);
+}
+
+QString SupplyMonitor::readModelText() {
+    if (path_ == Path::Raw) {
+        return readRawBlockA() ? modelText_ : QString();
+    }
+    const auto job = std::make_shared<ExchangeJob>(std::vector{makeRequest({kReadClass, kModelTextCommand})});
+    link_.submit(job);
+    if (path_ != Path::Main || !link_.wait(job, timing_.patience) || job->replies().empty()) {
+        return {};
+    }
+    modelText_ = QString::fromLatin1(replyText(job->replies().front()).c_str());
+    return modelText_;
+}
+
+void SupplyMonitor::send(const Request &request) {
+    if (path_ == Path::Main) {
+        link_.submit(std::make_shared<ExchangeJob>(std::vector{request}));
+    }
+}
+
+void SupplyMonitor::readInfo() {
+    collect();
+    if (path_ == Path::None || connecting_ || pass_ || rawPass_) {
+        return;
+    }
+    // A supply that did not answer last time is asked without waiting: it held the caller once, that is
+    // enough.
+    const auto patience = state_ == LinkState::Live ? timing_.patience : 0ms;
+    if (path_ == Path::Raw) {
+        rawPass_ = std::make_shared<RawReadJob>(kRawSampleReport, kRawSampleSize);
+        link_.submit(rawPass_);
+        link_.wait(rawPass_, patience);
+    } else {
+        std::vector<Request> questions;
+        for (const auto &quantity : kQuantities) {
+            questions.push_back(makeRequest({kReadClass, quantity.command}));
+        }
+        pass_ = std::make_shared<ExchangeJob>(std::move(questions));
+        link_.submit(pass_);
+        link_.wait(pass_, patience);
+    }
+    collect();
+}
+
+void SupplyMonitor::collect() {
+    if (pass_ && link_.finished(*pass_)) {
+        collectMain(*std::exchange(pass_, nullptr));
+    }
+    if (rawPass_ && link_.finished(*rawPass_)) {
+        collectRaw(*std::exchange(rawPass_, nullptr));
+    }
+}
+
+void SupplyMonitor::collectMain(const ExchangeJob &job) {
+    bool refreshed = false;
+    for (const auto &reply : job.replies()) {
+        if (const auto monitored = decodeReply(reply)) {
+            record_.store(QLatin1String(monitored->key), monitored->value);
+            refreshed = true;
+        }
+    }
+    record_.deriveWatts();
+    passEnded(refreshed);
+    if (job.lost() && !reconnectAsked_) {
+        reconnectAsked_ = true;
+        emit reconnectDue();
+    }
+}
+
+bool SupplyMonitor::readRawSample() {
+    const auto job = std::make_shared<RawReadJob>(kRawSampleReport, kRawSampleSize);
+    link_.submit(job);
+    if (!link_.wait(job, timing_.patience)) {
+        return false;
+    }
+    collectRaw(*job);
+    return job->succeeded();
+}
+
+void SupplyMonitor::collectRaw(const RawReadJob &job) {
+    if (job.succeeded()) {
+        fill(decodeRawSample(std::span<const std::uint8_t, kRawSampleSize>(job.report())));
+    }
+    passEnded(job.succeeded());
+}
+
+void SupplyMonitor::fill(const RawSample &sample) {
+    const auto store = [this](const char *key, double value) {
+        record_.store(QLatin1String(key), static_cast<float>(value));
+    };
+    store("VVOut12", sample.volts12);
+    store("VIOut12", sample.amps12);
+    store("VVOut5", sample.volts5);
+    store("VIOut5", sample.amps5);
+    store("VVOut33", sample.volts33);
+    store("VIOut33", sample.amps33);
+    store("WATTS", sample.watts);
+    store("FanSpeed", sample.fanRpm);
+    store("EFF", sample.efficiency * 100.0);
+    store("Temp", sample.celsius);
+    store("VIN", sample.acVolts);
+}
+
+bool SupplyMonitor::readRawBlock(std::size_t which, std::uint8_t id) {
+    const auto job = std::make_shared<RawReadJob>(id, kRawBlockSize);
+    link_.submit(job);
+    if (!link_.wait(job, timing_.patience) || !job->succeeded()) {
+        return false;
+    }
+    std::copy(job->report().begin() + 1, job->report().end(), blocks_.at(which).begin());
+    if (which == 0) {
+        const auto &block = blocks_.at(0);
+        const auto end = std::find(block.begin(), block.end(), 0);
+        modelText_ = QString::fromLatin1(
+            QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<int>(end - block.begin())));
+    }
+    return true;
+}
+
+void SupplyMonitor::passEnded(bool refreshed) {
+    setState(refreshed ? LinkState::Live : LinkState::Silent);
+    if (refreshed) {
+        hasReading_ = true;
+        emit readingTaken();
+    }
+}
+
+void SupplyMonitor::setState(LinkState state) {
+    if (state_ != state) {
+        state_ = state;
+        emit stateChanged(state);
+    }
+}
+
+void SupplyMonitor::lateFinish() {
+    collect();
+    if (connecting_ && link_.finished(*connecting_)) {
+        emit reconnectDue();
+    }
+}
+
+} // namespace zpsg::psu

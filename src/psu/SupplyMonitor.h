@@ -1,0 +1,112 @@
+// The supply as the program knows it: connected or not and by which path, the latest sample, and the
+// once-a-second pass that refreshes it. It holds no timer; who composes the program calls readInfo().
+#pragma once
+
+#include "psu/HidLink.h"
+#include "psu/TelemetryDecoder.h"
+#include "psu/TelemetryRecord.h"
+
+#include <QObject>
+
+#include <array>
+#include <chrono>
+
+namespace zpsg::psu {
+
+/// What a user needs to know of the connection.
+enum class LinkState {
+    NoDevice,     ///< no supply is attached
+    NoPermission, ///< a supply is attached and this user may not open it
+    Silent,       ///< a supply is open and does not answer
+    Live,         ///< the last pass was answered
+};
+
+/// How long a call here may hold the caller, whatever the device does. A pass that takes longer goes on by
+/// itself and its values arrive with a later event.
+struct MonitorTiming {
+    PortTiming port{};
+    std::chrono::milliseconds patience{200};
+};
+
+/// GUI thread only; the device itself is driven by the link's thread.
+class SupplyMonitor : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SupplyMonitor(std::unique_ptr<HidBackend> backend, MonitorTiming timing = {},
+                           QObject *parent = nullptr);
+
+    /// The first opening of the program's life: the main device is opened before the library is initialised,
+    /// and a refused wake-up is worth a message. True when a supply is there.
+    bool openAtStart();
+
+    /// (Re)opens the supply, raw device first. Writes the debug line "!handle" when there is none. False as
+    /// well when the system takes longer than the caller may be held; then reconnectDue() follows and the
+    /// next call has the result.
+    bool connectPsu();
+
+    /// One telemetry pass. Returns at once when no supply is connected or the last pass is still running.
+    void readInfo();
+
+    /// Asks the open main path for the model text; empty when there is no answer. Bytes are Latin-1.
+    QString readModelText();
+
+    /// Sends a report and does not wait for its reply, whose content nobody examines (fan and lighting).
+    void send(const Request &request);
+
+    [[nodiscard]] bool mainPathPresent() const { return path_ == Path::Main; }
+    [[nodiscard]] bool rawPathPresent() const { return path_ == Path::Raw; }
+    [[nodiscard]] LinkState state() const { return state_; }
+    /// Whether the record holds at least one value of a supply since the program started.
+    [[nodiscard]] bool hasReading() const { return hasReading_; }
+    [[nodiscard]] const TelemetryRecord &record() const { return record_; }
+    /// The model text of the supply as last read; empty when unknown.
+    [[nodiscard]] const QString &modelText() const { return modelText_; }
+
+    // The raw path's sample and blocks, one request each. False when the device failed or was too slow.
+    bool readRawSample();
+    bool readRawBlockA() { return readRawBlock(0, kRawBlockAReport); }
+    bool readRawBlockB() { return readRawBlock(1, kRawBlockBReport); }
+    /// The 32 bytes of block A (0) or B (1) as last read.
+    [[nodiscard]] const std::array<std::uint8_t, 32> &rawBlock(std::size_t which) const {
+        return blocks_.at(which);
+    }
+
+signals:
+    /// A pass has ended that refreshed at least one value.
+    void readingTaken();
+    void stateChanged(zpsg::psu::LinkState state);
+    /// The handle was lost or a slow connection attempt has ended: connect again.
+    void reconnectDue();
+    /// Worth a message box titled "Message".
+    void message(const QString &text);
+
+private:
+    bool connectWith(OpenOrder order, bool atStart);
+    void settle(const Connected &result, bool atStart);
+    void collect();
+    void collectMain(const ExchangeJob &job);
+    void collectRaw(const RawReadJob &job);
+    void fill(const RawSample &sample);
+    bool readRawBlock(std::size_t which, std::uint8_t id);
+    void passEnded(bool refreshed);
+    void setState(LinkState state);
+    Q_INVOKABLE void lateFinish();
+
+    MonitorTiming timing_;
+    TelemetryRecord record_;
+    std::shared_ptr<ConnectJob> connecting_;
+    std::shared_ptr<ExchangeJob> pass_;
+    std::shared_ptr<RawReadJob> rawPass_;
+    std::array<std::array<std::uint8_t, 32>, 2> blocks_{};
+    Path path_ = Path::None;
+    LinkState state_ = LinkState::NoDevice;
+    QString modelText_;
+    bool hasReading_ = false;
+    bool reconnectAsked_ = false;
+    HidLink link_; // last: its thread ends before anything that it calls back
+};
+
+} // namespace zpsg::psu
+
+Q_DECLARE_METATYPE(zpsg::psu::LinkState)
