@@ -2,33 +2,16 @@
 
 #include "simulator/DayScript.h"
 
-#include <ctime>
+#include <QDateTime>
 
 namespace zpsg::simulator {
 namespace {
 
-struct LocalMoment {
-    double secondOfDay;
-    unsigned dayOfYear;
-};
-
-LocalMoment localMoment(std::chrono::system_clock::time_point now) {
-    const auto whole = std::chrono::floor<std::chrono::seconds>(now);
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(whole);
-    std::tm local{};
-#ifdef _WIN32
-    localtime_s(&local, &seconds);
-#else
-    localtime_r(&seconds, &local);
-#endif
-    const std::chrono::duration<double> fraction = now - whole;
-    return {local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec + fraction.count(),
-            static_cast<unsigned>(local.tm_yday) + 1U};
-}
-
 double loadAt(std::chrono::system_clock::time_point now, const SupplyModel &model) {
-    const auto moment = localMoment(now);
-    return scriptedLoad(moment.secondOfDay, model.ratedWatts(), moment.dayOfYear);
+    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch());
+    const auto local = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count());
+    return scriptedLoad(local.time().msecsSinceStartOfDay() / 1000.0, model.ratedWatts(),
+                        static_cast<unsigned>(local.date().dayOfYear()));
 }
 
 } // namespace

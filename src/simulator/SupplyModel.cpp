@@ -92,7 +92,7 @@ void SupplyModel::step(double seconds, double loadWatts) {
     const double load = watts / ratedWatts_;
     const double heat = watts * (1.0 / efficiencyFraction(load) - 1.0);
     const double airflow = 0.35 + q.fanRpm / kFullFanRpm;
-    const double target = kRoomCelsius + 2.0 + 0.33 * heat / airflow;
+    const double target = kRoomCelsius + 2.0 + 0.22 * heat / airflow;
     q.celsius += (target - q.celsius) * (1.0 - std::exp(-seconds / kThermalSeconds));
     q.fanRpm += (fanTarget() - q.fanRpm) * (1.0 - std::exp(-seconds / kFanSeconds));
 }

@@ -1,0 +1,289 @@
+#include "app/CvZpsGV2.h"
+
+#include "app/Logging.h"
+#include "platform/NativeEvent.h"
+#include "sensors/pcInfoReader.h"
+#include "ui/DashboardPage.h"
+#include "ui/MainView.h"
+#include "ui/TitleBar.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QMenu>
+#include <QMessageBox>
+
+namespace zpsg::app {
+
+using platform::WindowMessage;
+
+namespace {
+
+constexpr std::chrono::milliseconds kCompanionPatience(1000);
+constexpr QSize kDefaultSize(1100, 720);
+
+} // namespace
+
+CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
+    : QMainWindow(parent)
+    , paths_(std::move(parts.paths))
+    , demo_(parts.demo)
+    , settings_(paths_.data)
+    , monitor_(std::move(parts.backend), parts.timing) {
+    readSettings();
+    loadLanguage();
+    buildWindow();
+    connectTitleBar();
+    createTray();
+    createServices();
+    identifyModel();
+    readInfo();
+    setUpPages();
+    startTimers();
+    saveData();
+    alignAutostart();
+    if (!demo_) {
+        platform::sendToWindow(platform::kCompanionWindowTitle, {platform::kCompanionNotice, 0, 0},
+                               kCompanionPatience);
+    }
+}
+
+CvZpsGV2::~CvZpsGV2() {
+    sensorThread_.quit();
+    sensorThread_.wait();
+}
+
+void CvZpsGV2::buildWindow() {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint);
+    setWindowIcon(QIcon(paths_.resources + QStringLiteral("/Image/ZPSapp.png")));
+    view_ = new ui::MainView(this);
+    setCentralWidget(view_);
+    resize(kDefaultSize);
+}
+
+void CvZpsGV2::readSettings() {
+    // Written back once, so that the file always holds the accumulated usage.
+    settings_.write({{Setting::TotalUsedTime, settings_.integer(Setting::TotalUsedTime)},
+                     {Setting::TotalUsedKwh, settings_.real(Setting::TotalUsedKwh)},
+                     {Setting::TotalUsedCost, settings_.real(Setting::TotalUsedCost)},
+                     {Setting::LastUsedTime, settings_.integer(Setting::LastUsedTime)}});
+}
+
+void CvZpsGV2::loadLanguage() {
+    const QString folder = paths_.resources + QStringLiteral("/Language");
+    // English lies below every language, so that a text which a translation lacks is readable all the same.
+    if (english_.load(QStringLiteral("en.qm"), folder)) {
+        QCoreApplication::installTranslator(&english_);
+    } else {
+        qCWarning(lcApp).noquote() << "no translation file" << folder + QStringLiteral("/en.qm");
+    }
+    changeLanguage();
+}
+
+void CvZpsGV2::changeLanguage() {
+    QCoreApplication::removeTranslator(&translator_);
+    const QString language = settings_.text(Setting::Language);
+    const QString folder = paths_.resources + QStringLiteral("/Language");
+    if (language != QLatin1String("en") && translator_.load(language + QStringLiteral(".qm"), folder)) {
+        QCoreApplication::installTranslator(&translator_);
+    }
+}
+
+void CvZpsGV2::resetLanguage() {
+    changeLanguage();
+    retranslate();
+}
+
+void CvZpsGV2::connectTitleBar() {
+    auto *bar = view_->titleBar();
+    //: %1 is the version number, %2 the cloud station's name
+    bar->setVersionText(
+        QStringLiteral("ZPS G App Ver:%1  %2").arg(QCoreApplication::applicationVersion(), QString()));
+    connect(bar, &ui::TitleBar::closeReleased, this, &CvZpsGV2::leaveScreen);
+    connect(bar, &ui::TitleBar::closeReleased, this, &CvZpsGV2::saveLED);
+    connect(bar, &ui::TitleBar::minimiseReleased, this, &QWidget::showMinimized);
+}
+
+void CvZpsGV2::createTray() {
+    trayMenu_ = new QMenu(this);
+    connect(trayMenu_->addAction(QString()), &QAction::triggered, this, &QWidget::showNormal);
+    connect(trayMenu_->addAction(QString()), &QAction::triggered, qApp, &QCoreApplication::quit);
+    tray_ = new QSystemTrayIcon(windowIcon(), this);
+    tray_->setContextMenu(trayMenu_);
+    connect(tray_, &QSystemTrayIcon::activated, this, &CvZpsGV2::iconActivated);
+    retranslate();
+    tray_->show();
+}
+
+void CvZpsGV2::retranslate() {
+    tray_->setToolTip(qtTrId("TRAYICON_NAME"));
+    trayMenu_->actions().at(0)->setText(qtTrId("TRAYICON_LAUNCH"));
+    trayMenu_->actions().at(1)->setText(qtTrId("TRAYICON_EXIT"));
+}
+
+void CvZpsGV2::createServices() {
+    connect(&monitor_, &psu::SupplyMonitor::message, this, &CvZpsGV2::showMessage);
+    connect(&monitor_, &psu::SupplyMonitor::reconnectDue, this, &CvZpsGV2::deviceChanged,
+            Qt::QueuedConnection);
+    deviceWatch_ =
+        platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
+}
+
+bool CvZpsGV2::identifyModel() {
+    const bool opened = monitor_.openAtStart();
+    if (opened) {
+        monitor_.readModelText();
+    }
+    return opened;
+}
+
+bool CvZpsGV2::connectPsu() {
+    const bool opened = monitor_.connectPsu();
+    if (opened && monitor_.modelText().isEmpty()) {
+        monitor_.readModelText();
+    }
+    return opened;
+}
+
+void CvZpsGV2::setUpPages() {
+    auto *dashboard = view_->dashboard();
+    dashboard->setDemo(demo_);
+    dashboard->setRemedy(QString::fromStdString(platform::deviceAccessRemedy()));
+    dashboard->showLinkState(monitor_.state(), monitor_.modelText());
+    connect(&monitor_, &psu::SupplyMonitor::stateChanged, dashboard, [this, dashboard](psu::LinkState state) {
+        dashboard->showLinkState(state, monitor_.modelText());
+    });
+    view_->setMainEnabled(monitor_.mainPathPresent() || monitor_.rawPathPresent());
+    demoInfo();
+}
+
+void CvZpsGV2::startTimers() {
+    addTimer(1000, &CvZpsGV2::demoInfo);
+    readTimer_ = addTimer(1000, &CvZpsGV2::readInfo);
+    addTimer(60000, &CvZpsGV2::saveData);
+    addTimer(120000, &CvZpsGV2::getNextDailySettlement);
+    addTimer(60000, &CvZpsGV2::checkUploadState);
+    addTimer(60000, &CvZpsGV2::ClockTick);
+    addTimer(60000, &CvZpsGV2::slotsTimePass);
+    if (settings_.flag(Setting::SensorsEnabled)) {
+        startSensorTimer();
+    }
+}
+
+QTimer *CvZpsGV2::addTimer(int milliseconds, void (CvZpsGV2::*slot)()) {
+    auto *timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, slot);
+    timer->start(milliseconds);
+    return timer;
+}
+
+void CvZpsGV2::startSensorTimer() {
+    sensors_ = std::make_unique<sensors::pcInfoReader>();
+    sensorTimer_ = std::make_unique<QTimer>();
+    connect(sensors_.get(), &sensors::pcInfoReader::openFail, this, &CvZpsGV2::hwinfoOpenFail);
+    connect(sensorTimer_.get(), &QTimer::timeout, sensors_.get(), &sensors::pcInfoReader::refreshInfo);
+    sensorTimer_->setInterval(1000);
+    sensors_->moveToThread(&sensorThread_);
+    sensorTimer_->moveToThread(&sensorThread_);
+    connect(&sensorThread_, &QThread::started, sensorTimer_.get(), qOverload<>(&QTimer::start));
+    connect(&sensorThread_, &QThread::finished, sensorTimer_.get(), &QTimer::stop);
+    sensorThread_.start(QThread::InheritPriority);
+}
+
+void CvZpsGV2::alignAutostart() {
+    std::string error;
+    if (!demo_ &&
+        !platform::setAutostart(settings_.flag(Setting::Autostart), paths_.executable.toStdString(), error)) {
+        qCWarning(lcApp) << "the autostart entry can't be set:" << error.c_str();
+    }
+}
+
+void CvZpsGV2::demoInfo() {
+    if (monitor_.hasReading()) {
+        view_->dashboard()->showReading(monitor_.record(), QDateTime::currentMSecsSinceEpoch());
+    }
+}
+
+bool CvZpsGV2::windowMessage(const WindowMessage &message) {
+    switch (message.number) {
+    case platform::kDeviceChange:
+        deviceChanged();
+        return true;
+    case platform::kShowRequest:
+        showAgain();
+        return true;
+    case platform::kSyncOffByFans:
+        return setLightingSync(false, QStringLiteral("Sync By Fans"));
+    case platform::kSyncOnByFans:
+        return setLightingSync(true, QStringLiteral("Sync By Fans"));
+    case platform::kSyncOffByKeyBoard:
+        return setLightingSync(false, QStringLiteral("Sync By KeyBoard"));
+    default:
+        return false;
+    }
+}
+
+bool CvZpsGV2::setLightingSync(bool on, const QString &modeText) {
+    if (ringVariant_ != kDuoRing) {
+        return false;
+    }
+    lightingSync_ = {on, modeText};
+    return true;
+}
+
+void CvZpsGV2::deviceChanged() {
+    readTimer_->stop();
+    if (!connectPsu()) {
+        view_->setMainEnabled(false);
+        return;
+    }
+    qCDebug(lcApp) << "Still Exist";
+    readTimer_->start(1000);
+    view_->setMainEnabled(true);
+}
+
+void CvZpsGV2::showAgain() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void CvZpsGV2::leaveScreen() {
+    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+        hide();
+    } else {
+        showMinimized(); // without a tray a hidden window could not be brought back from the screen
+    }
+}
+
+void CvZpsGV2::iconActivated(QSystemTrayIcon::ActivationReason reason) {
+    if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) {
+        showAgain();
+    }
+}
+
+void CvZpsGV2::showMessage(const QString &text) {
+    auto *box =
+        new QMessageBox(QMessageBox::Information, QStringLiteral("Message"), text, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open(); // not exec(): the supply is read on while the box stands
+}
+
+bool CvZpsGV2::nativeEvent(const QByteArray &eventType, void *message, long *result) {
+    const auto decoded = platform::fromNativeEvent(message);
+    if (decoded && windowMessage(*decoded)) {
+        *result = 1;
+        return true;
+    }
+    return QMainWindow::nativeEvent(eventType, message, result);
+}
+
+void CvZpsGV2::closeEvent(QCloseEvent *event) {
+    // Whatever asks the window to close (the window manager's shortcut) only takes it off the screen.
+    event->ignore();
+    leaveScreen();
+}
+
+} // namespace zpsg::app

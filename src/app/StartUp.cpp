@@ -1,0 +1,63 @@
+#include "app/StartUp.h"
+
+#include "app/Backend.h"
+#include "app/CvZpsGV2.h"
+#include "platform/ExitRequest.h"
+#include "platform/SystemMenu.h"
+#include "platform/WindowRendezvous.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace zpsg::app {
+namespace {
+
+constexpr std::chrono::milliseconds kCompanionPatience(1000);
+constexpr int kHideAfterMilliseconds = 600;
+
+/// Sends the running instance the request to show itself.
+int showOther() {
+    using platform::Delivery;
+    const auto delivery = platform::sendToWindow(platform::kMainWindowTitle, {platform::kShowRequest, 0, 1});
+    if (delivery == Delivery::NotHandled) {
+        std::fputs("zpsg: already running without a window (--headless)\n", stderr);
+    } else if (delivery != Delivery::Handled) {
+        std::fputs("zpsg: already running, but the other instance does not answer\n", stderr);
+    }
+    return kExitOk;
+}
+
+} // namespace
+
+int runWithWindow(QApplication &application, const CommandLine &line, const Paths &paths) {
+    // Before the single-instance check, so that a second instance sends it as well. A demo takes no device.
+    if (!line.demo) {
+        platform::sendToWindow(platform::kCompanionWindowTitle, {platform::kCompanionNotice, 0, 1},
+                               kCompanionPatience);
+    }
+    if (platform::windowExists(platform::kMainWindowTitle)) {
+        return showOther();
+    }
+    // Of several starts at the same moment all get here; one takes the title.
+    const auto title = platform::TitleClaim::tryTake(platform::kMainWindowTitle);
+    if (!title) {
+        return showOther();
+    }
+
+    QApplication::setQuitOnLastWindowClosed(false);
+    CvZpsGV2 window({paths, makeBackend(line), line.demo});
+    platform::onExitRequest([] { QCoreApplication::quit(); });
+    window.show();
+    window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
+    title->deliverTo(
+        [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
+    if (line.startHidden) {
+        QTimer::singleShot(kHideAfterMilliseconds, &window, &QWidget::hide);
+    }
+    platform::trimSystemMenu(platform::kMainWindowTitle);
+    return application.exec();
+}
+
+} // namespace zpsg::app

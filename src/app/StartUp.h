@@ -1,0 +1,15 @@
+// The order in which the program starts: companion, single instance, window, title, tray.
+#pragma once
+
+#include "app/CommandLine.h"
+#include "app/Paths.h"
+
+class QApplication;
+
+namespace zpsg::app {
+
+/// Runs the program with its window, from the companion's notice to the end of the event loop. Returns the
+/// exit code of the process: the loop's, or 0 when another instance was found and shown.
+int runWithWindow(QApplication &application, const CommandLine &line, const Paths &paths);
+
+} // namespace zpsg::app

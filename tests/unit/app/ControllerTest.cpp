@@ -1,0 +1,118 @@
+#include "app/CvZpsGV2.h"
+#include "simulator/SimulatedBus.h"
+
+#include <QMetaMethod>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+using namespace zpsg;
+using platform::WindowMessage;
+
+namespace {
+
+class ControllerTest : public ::testing::Test {
+protected:
+    ControllerTest() {
+        qputenv("XDG_RUNTIME_DIR", dir.path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", dir.path().toUtf8());
+    }
+
+    std::unique_ptr<app::CvZpsGV2> make() {
+        return std::make_unique<app::CvZpsGV2>(app::WindowParts{
+            {dir.filePath(QStringLiteral("zpsg")), dir.path(), dir.path()}, bus->backend(), false, {}});
+    }
+
+    QTimer *readTimer(app::CvZpsGV2 &window) {
+        return window.findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly).at(1);
+    }
+
+    QTemporaryDir dir;
+    std::shared_ptr<simulator::SimulatedBus> bus = simulator::SimulatedBus::create();
+};
+
+TEST_F(ControllerTest, StartsItsTimersInOrder) {
+    const auto window = make();
+    std::vector<int> intervals;
+    for (const auto *timer : window->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly)) {
+        EXPECT_TRUE(timer->isActive());
+        intervals.push_back(timer->interval());
+    }
+    EXPECT_THAT(intervals, ::testing::ElementsAre(1000, 1000, 60000, 120000, 60000, 60000, 60000));
+}
+
+// Other programs reach the slots by number: the order is a contract.
+TEST_F(ControllerTest, DeclaresItsSignalsAndSlotsInTheAgreedOrder) {
+    const QMetaObject &meta = app::CvZpsGV2::staticMetaObject;
+    const auto signature = [&meta](int index) {
+        return meta.method(meta.methodOffset() + index).methodSignature().toStdString();
+    };
+    EXPECT_EQ(signature(0), "mainToSocketHelpRGB_State(bool,int)");
+    EXPECT_EQ(signature(5), "closeThisMainApp(QString)");
+    EXPECT_EQ(signature(6), "controlableFanSpeed(int)");
+    EXPECT_EQ(signature(10), "readInfo()");
+    EXPECT_EQ(signature(14), "changeEleRate(float)");
+    EXPECT_EQ(signature(23), "ClockTick()");
+    EXPECT_EQ(signature(32), "ZpsCirqPlusCustomFansModeSelected(QStringList)");
+    EXPECT_EQ(signature(62), "messageFromSocketHelper_stopHelloCV()");
+    EXPECT_EQ(signature(63), "thermalMode12LEDSlot()");
+    EXPECT_EQ(signature(68), "getMkeyFinishedSlot(QNetworkReply*)");
+    EXPECT_EQ(signature(80), "getLocat_China_FinishedSlot(QNetworkReply*)");
+    EXPECT_EQ(signature(82), "powerStatusConfirmSlot()");
+    EXPECT_EQ(meta.methodCount() - meta.methodOffset(), 83);
+}
+
+TEST_F(ControllerTest, FirstReadingIsThereWhenTheWindowIs) {
+    bus->plug(simulator::SupplyModel("CVA-0750-G"));
+    const auto window = make();
+    EXPECT_TRUE(window->monitor().hasReading());
+    EXPECT_EQ(window->monitor().modelText(), QStringLiteral("CVA-0750-G"));
+    QSettings written(dir.filePath(QStringLiteral("config_ZPSG.ini")), QSettings::IniFormat);
+    for (const char *key :
+         {"Setting/totalUsedTime", "Setting/totalUsedKWH", "Setting/totalUsedCost", "Setting/lastUsedTime"}) {
+        EXPECT_TRUE(written.contains(QLatin1String(key))) << key;
+    }
+}
+
+TEST_F(ControllerTest, FollowsASupplyThatComesAndGoes) {
+    const auto window = make();
+    EXPECT_FALSE(window->monitor().hasReading());
+    const WindowMessage changed{platform::kDeviceChange, 0, 0};
+    EXPECT_TRUE(window->windowMessage(changed));
+    EXPECT_FALSE(readTimer(*window)->isActive());
+    bus->plug(simulator::SupplyModel("CVA-0750-G"));
+    EXPECT_TRUE(window->windowMessage(changed));
+    EXPECT_TRUE(readTimer(*window)->isActive());
+    EXPECT_EQ(window->monitor().modelText(), QStringLiteral("CVA-0750-G"));
+    window->readInfo();
+    EXPECT_TRUE(window->monitor().hasReading());
+    bus->unplug();
+    EXPECT_TRUE(window->windowMessage(changed));
+    EXPECT_FALSE(readTimer(*window)->isActive());
+}
+
+TEST_F(ControllerTest, ActsOnItsOwnMessagesOnly) {
+    const auto window = make();
+    EXPECT_TRUE(window->windowMessage({platform::kShowRequest, 0, 1}));
+    EXPECT_TRUE(window->isVisible());
+    window->close(); // only takes it off the screen
+    EXPECT_TRUE(window->windowMessage({platform::kShowRequest, 0, 1}));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(window->isMinimized());
+    for (const std::uint32_t number : {0U, 536U, 9012U, 33024U, 33029U, 33026U, 33027U, 33028U}) {
+        EXPECT_FALSE(window->windowMessage({number, 0, 0})) << number; // no Duo set is fitted
+    }
+}
+
+TEST_F(ControllerTest, EndsWithTheSensorThreadRunning) {
+    {
+        QSettings features(dir.filePath(QStringLiteral("config_Features.ini")), QSettings::IniFormat);
+        features.setValue(QStringLiteral("Features/PcSensors"), true);
+    }
+    const auto window = make();
+    EXPECT_EQ(window->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly).size(), 7);
+}
+
+} // namespace

@@ -1,0 +1,137 @@
+#include "app/Settings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace zpsg::app;
+
+namespace {
+
+class SettingsTest : public ::testing::Test {
+protected:
+    QString general() const { return dir.filePath(QStringLiteral("config_ZPSG.ini")); }
+
+    void put(const QByteArray &content) const {
+        QFile file(general());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QByteArray content() const {
+        QFile file(general());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+    }
+
+    QTemporaryDir dir;
+};
+
+TEST_F(SettingsTest, GivesDefaultsAndKeepsWhatIsWritten) {
+    {
+        Settings settings(dir.path());
+        EXPECT_EQ(settings.text(Setting::Language), QStringLiteral("en"));
+        EXPECT_FALSE(settings.flag(Setting::Autostart));
+        EXPECT_TRUE(settings.write({{Setting::Language, QStringLiteral("jp")},
+                                    {Setting::TotalUsedKwh, 12.5},
+                                    {Setting::Account, QStringLiteral("a;b, \"Ä\" =]")},
+                                    {Setting::FanDuty, 99}}));
+    }
+    const Settings again(dir.path());
+    EXPECT_EQ(again.text(Setting::Language), QStringLiteral("jp"));
+    EXPECT_EQ(again.real(Setting::TotalUsedKwh), 12.5);
+    EXPECT_EQ(again.text(Setting::Account), QStringLiteral("a;b, \"Ä\" =]"));
+    EXPECT_EQ(again.integer(Setting::FanDuty), 3); // the highest there is
+    EXPECT_TRUE(content().contains("[Setting]"));
+    EXPECT_TRUE(content().contains("Language=jp"));
+}
+
+TEST_F(SettingsTest, BadValuesBecomeTheNearestGoodOnes) {
+    struct Case {
+        const char *line;
+        int duty;
+    };
+    for (const auto &[line, duty] : {Case{"FanDuty=2", 2}, Case{"FanDuty=-7", 0}, Case{"FanDuty=1e99", 3},
+                                     Case{"FanDuty=fast", 0}, Case{"FanDuty=", 0}, Case{"FanDuty=nan", 0},
+                                     Case{"FanDuty=1, 2, 3", 0}, Case{"FanDuty=@Invalid()", 0}}) {
+        put(QByteArray("[FanSetting]\n") + line + "\n");
+        EXPECT_EQ(Settings(dir.path()).integer(Setting::FanDuty), duty) << line;
+    }
+    put("[Setting]\nAutostart=maybe\nAskLogin=0\nLanguage=a, b\n");
+    const Settings settings(dir.path());
+    EXPECT_FALSE(settings.flag(Setting::Autostart));
+    EXPECT_FALSE(settings.flag(Setting::AskLogin));
+    EXPECT_EQ(settings.text(Setting::Language), QStringLiteral("a,b"));
+}
+
+TEST_F(SettingsTest, NothingIsLostFromADamagedFile) {
+    QByteArray binary;
+    for (int i = 0; i < 4096; ++i) {
+        binary.append(static_cast<char>(i * 37 + i / 7));
+    }
+    struct Case {
+        QByteArray content;
+        bool damaged;
+    };
+    for (const auto &[bytes, damaged] :
+         {Case{"", false}, Case{"\0\0\0", false}, Case{"[Setting]\nLanguage=de\nTempType", true},
+          Case{binary, true}, Case{"[Setting]\nLanguage=de\n[Fan", true}}) {
+        put(bytes);
+        {
+            Settings settings(dir.path());
+            EXPECT_TRUE(settings.write({{Setting::TotalUsedTime, 77}}));
+            EXPECT_EQ(settings.integer(Setting::TotalUsedTime), 77);
+        }
+        const QDir folder(dir.path());
+        const auto kept = folder.entryList({QStringLiteral("*.damaged-*")});
+        ASSERT_EQ(kept.size(), damaged ? 1 : 0) << bytes.left(40).constData();
+        if (damaged) {
+            QFile copy(folder.filePath(kept.first()));
+            ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+            EXPECT_EQ(copy.readAll(), bytes);
+            copy.remove();
+        }
+        EXPECT_EQ(Settings(dir.path()).integer(Setting::TotalUsedTime), 77);
+        QFile::remove(general());
+    }
+}
+
+/// While it lives no file can grow beyond `bytes`: what a full disk does to a writer.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) {
+        previousHandler_ = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &previous_);
+        const rlimit limit{bytes, previous_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &previous_);
+        std::signal(SIGXFSZ, previousHandler_);
+    }
+
+private:
+    rlimit previous_{};
+    void (*previousHandler_)(int) = nullptr;
+};
+
+TEST_F(SettingsTest, AFullDiskLeavesTheFileWholeAndTheValueIsWrittenLater) {
+    Settings settings(dir.path());
+    ASSERT_TRUE(settings.write({{Setting::Language, QStringLiteral("fr")}}));
+    const QByteArray before = content();
+    {
+        const FullDisk disk(8);
+        EXPECT_FALSE(settings.write({{Setting::TotalUsedTime, 123456}}));
+    }
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(settings.integer(Setting::TotalUsedTime), 123456);
+    EXPECT_TRUE(settings.write({{Setting::TempType, 1}}));
+    EXPECT_EQ(Settings(dir.path()).integer(Setting::TotalUsedTime), 123456);
+}
+
+} // namespace
