@@ -1,0 +1,16 @@
+// Starting the program when the user signs in: a value of the registry Run key on Windows, a desktop entry in
+// the user's autostart folder on Linux.
+#pragma once
+
+#include <string>
+
+namespace zpsg::platform {
+
+/// Brings the entry in line: present and starting `"<executable>" open`, or absent. Does nothing when it is
+/// so already. False (and `error` in plain words) when the system refused. Paths are UTF-8.
+bool setAutostart(bool enabled, const std::string &executable, std::string &error);
+
+/// Whether the entry is there now, whatever program it names.
+bool autostartEnabled();
+
+} // namespace zpsg::platform

@@ -1,0 +1,17 @@
+// Messages that the toolkit hands on from the window system, as numbered messages.
+#pragma once
+
+#include "platform/WindowMessage.h"
+
+#include <optional>
+
+namespace zpsg::platform {
+
+/// The message inside the toolkit's native event, or nothing when it is none of this program's. Off Windows
+/// the numbered messages come through TitleClaim and DeviceWatch instead, and there is never one in here.
+std::optional<WindowMessage> fromNativeEvent(void *event);
+
+/// Whether a window can be shown: a display server is named, or one is not needed.
+bool displayAvailable();
+
+} // namespace zpsg::platform
