@@ -1,6 +1,7 @@
 #include "app/CvZpsGV2.h"
 
 #include "app/Logging.h"
+#include "platform/DeviceAccess.h"
 #include "platform/NativeEvent.h"
 #include "sensors/pcInfoReader.h"
 #include "ui/DashboardPage.h"
@@ -20,7 +21,6 @@ using platform::WindowMessage;
 namespace {
 
 constexpr std::chrono::milliseconds kCompanionPatience(1000);
-constexpr QSize kDefaultSize(1100, 720);
 
 } // namespace
 
@@ -59,7 +59,8 @@ void CvZpsGV2::buildWindow() {
     setWindowIcon(QIcon(paths_.resources + QStringLiteral("/Image/ZPSapp.png")));
     view_ = new ui::MainView(this);
     setCentralWidget(view_);
-    resize(kDefaultSize);
+    resize(ui::MainView::kDefaultSize);
+    setMinimumSize(ui::MainView::kMinimumSize);
 }
 
 void CvZpsGV2::readSettings() {
@@ -173,6 +174,7 @@ void CvZpsGV2::startTimers() {
 
 QTimer *CvZpsGV2::addTimer(int milliseconds, void (CvZpsGV2::*slot)()) {
     auto *timer = new QTimer(this);
+    timer->setTimerType(Qt::PreciseTimer); // a coarse one may be 5 % off: three seconds a minute
     connect(timer, &QTimer::timeout, this, slot);
     timer->start(milliseconds);
     return timer;
@@ -240,6 +242,7 @@ void CvZpsGV2::deviceChanged() {
     }
     qCDebug(lcApp) << "Still Exist";
     readTimer_->start(1000);
+    QTimer::singleShot(0, this, &CvZpsGV2::readInfo); // values at once, in an event of their own
     view_->setMainEnabled(true);
 }
 

@@ -84,13 +84,18 @@ void Headless::start() {
         note(monitor_.state());
     }
     monitor_.readInfo();
+    readTimer_.setTimerType(Qt::PreciseTimer);
     readTimer_.start(1000);
 }
 
 void Headless::deviceChanged() {
-    if (monitor_.connectPsu() && monitor_.modelText().isEmpty()) {
+    if (!monitor_.connectPsu()) {
+        return;
+    }
+    if (monitor_.modelText().isEmpty()) {
         monitor_.readModelText();
     }
+    QTimer::singleShot(0, &monitor_, &psu::SupplyMonitor::readInfo);
 }
 
 void Headless::print() {

@@ -47,8 +47,8 @@ int runWithWindow(QApplication &application, const CommandLine &line, const Path
     }
 
     QApplication::setQuitOnLastWindowClosed(false);
-    CvZpsGV2 window({paths, makeBackend(line), line.demo});
     platform::onExitRequest([] { QCoreApplication::quit(); });
+    CvZpsGV2 window({paths, makeBackend(line), line.demo});
     window.show();
     window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
     title->deliverTo(

@@ -1,0 +1,47 @@
+// Wall time from the start of the process to the first reading painted, with --demo and the offscreen platform. The
+// program says so in a debug line; a run is a whole process.
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+void startToFirstReading(benchmark::State &state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        const QTemporaryDir home;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("zpsg.app.debug=true"));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        state.ResumeTiming();
+        program.start(QStringLiteral(ZPSG_PROGRAM),
+                      {QStringLiteral("--demo"), QStringLiteral("--data-dir"), home.path()});
+        QByteArray said;
+        while (!said.contains("first reading on screen") && program.waitForReadyRead(10000)) {
+            said += program.readAllStandardError();
+        }
+        state.PauseTiming();
+        if (!said.contains("first reading on screen")) {
+            state.SkipWithError("the program did not show a reading");
+        }
+        program.terminate();
+        program.waitForFinished();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(startToFirstReading)->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(21);
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

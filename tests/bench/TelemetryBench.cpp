@@ -1,0 +1,49 @@
+// The program's own work in one telemetry pass: nine exchanges with the simulated supply in the same process, decoding
+// and formatting included. CPU time counts both threads' share only where the process clock is used.
+
+#include "psu/SupplyMonitor.h"
+#include "psu/TelemetryDecoder.h"
+#include "simulator/SimulatedBus.h"
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+using namespace zpsg;
+
+namespace {
+
+void telemetryPass(benchmark::State &state) {
+    const auto bus = simulator::SimulatedBus::create();
+    bus->plug(simulator::SupplyModel());
+    psu::SupplyMonitor monitor(bus->backend());
+    if (!monitor.openAtStart()) {
+        state.SkipWithError("the simulated supply can't be opened");
+        return;
+    }
+    for (auto _ : state) {
+        monitor.readInfo();
+    }
+    if (monitor.state() != psu::LinkState::Live) {
+        state.SkipWithError("the simulated supply did not answer");
+    }
+}
+BENCHMARK(telemetryPass)->MeasureProcessCPUTime()->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+void decodeOneReply(benchmark::State &state) {
+    psu::Reply reply{{0x31, 0x34, 0x0C, 0xD3}, 64};
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(reply);
+        benchmark::DoNotOptimize(psu::decodeReply(reply));
+    }
+}
+BENCHMARK(decodeOneReply);
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

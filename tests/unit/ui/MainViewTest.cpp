@@ -1,0 +1,167 @@
+#include "ui/MainView.h"
+
+#include "psu/SupplyMonitor.h"
+#include "ui/ArcGauge.h"
+#include "ui/DashboardPage.h"
+#include "ui/TitleBar.h"
+#include "ui/WindowFrame.h"
+#include "UiFixture.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <array>
+
+namespace zpsg::ui::test {
+namespace {
+
+using psu::LinkState;
+
+class MainViewTest : public UiTest {
+protected:
+    MainViewTest() {
+        view_.setWindowFlag(Qt::FramelessWindowHint);
+        view_.titleBar()->setVersionText(QStringLiteral("ZPS G App Ver:10.20.30  Somewhere in Europe"));
+        view_.dashboard()->setRatedWatts(1000.0);
+        view_.dashboard()->setRemedy(QStringLiteral(
+            "sudo install -m 644 /opt/zpsg/70-zpsg.rules /etc/udev/rules.d/ && sudo udevadm control "
+            "--reload && sudo udevadm trigger --subsystem-match=hidraw"));
+    }
+    void bring(LinkState state) {
+        view_.dashboard()->showLinkState(state, QStringLiteral("MODEL-1000-WITH-A-LONG-NAME"));
+        view_.dashboard()->showReading(reading(), now_ += 1000);
+        settle();
+    }
+
+    MainView view_;
+    qint64 now_ = 1'700'000'000'000;
+};
+
+/// What is wrong with where a child stands; empty when nothing is.
+QString misfit(const QWidget &widget, const QWidget &view) {
+    const QRect place(widget.mapTo(&view, QPoint(0, 0)), widget.size());
+    QSize needed = widget.minimumSizeHint();
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+        needed = label->wordWrap() ? QSize(0, label->heightForWidth(label->width())) : label->sizeHint();
+    } else if (qobject_cast<const QPushButton *>(&widget) != nullptr) {
+        needed = widget.sizeHint();
+    }
+    if (widget.width() < needed.width() || widget.height() < needed.height()) {
+        return QStringLiteral("%1 x %2 needs %3 x %4")
+            .arg(widget.width())
+            .arg(widget.height())
+            .arg(needed.width())
+            .arg(needed.height());
+    }
+    return view.rect().contains(place) ? QString() : QStringLiteral("reaches out of the window");
+}
+
+TEST_F(MainViewTest, NothingIsCutAtAnySize) {
+    view_.dashboard()->setDemo(true);
+    view_.show();
+    for (const QSize size : {QSize(960, 620), QSize(1100, 720), QSize(3840, 2160), QSize(960, 620)}) {
+        for (const LinkState state :
+             {LinkState::Live, LinkState::Silent, LinkState::NoPermission, LinkState::NoDevice}) {
+            view_.resize(size);
+            bring(state);
+            ASSERT_EQ(view_.size(), size);
+            for (const QWidget *child : view_.findChildren<QWidget *>()) {
+                if (child->isVisible() && (qobject_cast<const QLabel *>(child) != nullptr ||
+                                           qobject_cast<const QPushButton *>(child) != nullptr ||
+                                           qobject_cast<const Readout *>(child) != nullptr)) {
+                    EXPECT_EQ(misfit(*child, view_), QString())
+                        << child->metaObject()->className() << " " << qPrintable(child->objectName())
+                        << " state " << static_cast<int>(state) << " width " << size.width();
+                }
+            }
+        }
+    }
+}
+
+TEST_F(MainViewTest, NothingIsPaintedWhileHidden) {
+    view_.show();
+    bring(LinkState::Live);
+    view_.hide();
+    settle();
+    const PaintCounter counter(&view_);
+    for (const LinkState state : {LinkState::Live, LinkState::Silent, LinkState::NoDevice, LinkState::Live}) {
+        bring(state);
+    }
+    EXPECT_EQ(counter.paints, 0);
+}
+
+TEST_F(MainViewTest, WhatHelpsStaysUsableWhileThePagesAreDisabled) {
+    view_.show();
+    bring(LinkState::NoPermission);
+    view_.setMainEnabled(false);
+    for (const ArcGauge *gauge : view_.findChildren<ArcGauge *>()) {
+        EXPECT_FALSE(gauge->isEnabled());
+    }
+    EXPECT_TRUE(view_.findChild<QPushButton *>(QStringLiteral("btnCopyRemedy"))->isEnabled());
+    EXPECT_TRUE(view_.findChild<QLabel *>(QStringLiteral("lblRemedy"))->isEnabled());
+    EXPECT_TRUE(view_.titleBar()->isEnabled());
+    view_.setMainEnabled(true);
+    EXPECT_TRUE(view_.findChild<ArcGauge *>()->isEnabled());
+}
+
+TEST_F(MainViewTest, HasTheGradientAndTheEdge) {
+    view_.resize(1100, 720);
+    const QImage image = view_.grab().toImage();
+    const QColor edge(184, 184, 183);
+    for (const QPoint at : {QPoint(0, 0), QPoint(1099, 719), QPoint(550, 0), QPoint(0, 360)}) {
+        EXPECT_EQ(image.pixelColor(at), edge) << at.x() << "," << at.y();
+    }
+    EXPECT_NEAR(image.pixelColor(4, 3).red(), 30, 1);
+    EXPECT_NEAR(image.pixelColor(4, 360).red(), 15, 1);
+    EXPECT_NEAR(image.pixelColor(4, 716).red(), 0, 1);
+}
+
+TEST_F(MainViewTest, CanBeResizedAtEveryEdgeAndCorner) {
+    view_.show();
+    view_.resize(1200, 800);
+    settle();
+    const std::array edges{
+        std::pair{QPoint(1, 400), Qt::SizeHorCursor},    std::pair{QPoint(1198, 400), Qt::SizeHorCursor},
+        std::pair{QPoint(600, 1), Qt::SizeVerCursor},    std::pair{QPoint(600, 798), Qt::SizeVerCursor},
+        std::pair{QPoint(2, 2), Qt::SizeFDiagCursor},    std::pair{QPoint(1197, 797), Qt::SizeFDiagCursor},
+        std::pair{QPoint(1197, 2), Qt::SizeBDiagCursor}, std::pair{QPoint(2, 797), Qt::SizeBDiagCursor},
+    };
+    for (const auto &[at, cursor] : edges) {
+        const QWidget *grip = view_.childAt(at);
+        ASSERT_NE(grip, nullptr);
+        EXPECT_EQ(grip->cursor().shape(), cursor) << at.x() << "," << at.y();
+    }
+    const auto *close = view_.findChild<QWidget *>(QStringLiteral("Close_Window"));
+    EXPECT_EQ(view_.childAt(close->mapTo(&view_, close->rect().center())), close)
+        << "grips leave the buttons free";
+}
+
+TEST_F(MainViewTest, TextsFollowTheLanguage) {
+    bring(LinkState::NoDevice);
+    const QString english = view_.findChild<ArcGauge *>(QStringLiteral("gaugeFan"))->accessibleName();
+    EXPECT_EQ(english, QStringLiteral("Fan"));
+
+    class Marking : public QTranslator {
+    public:
+        [[nodiscard]] bool isEmpty() const override { return false; }
+        [[nodiscard]] QString translate(const char * /*context*/, const char *id, const char * /*hint*/,
+                                        int /*n*/) const override {
+            return QStringLiteral("~") + QString::fromLatin1(id);
+        }
+    } marking;
+    QCoreApplication::installTranslator(&marking);
+    settle();
+    for (const QLabel *label : view_.dashboard()->findChildren<QLabel *>()) {
+        if (label->isVisibleTo(&view_) && !label->text().isEmpty()) {
+            EXPECT_TRUE(label->text().startsWith(QLatin1Char('~'))) << qPrintable(label->text());
+        }
+    }
+    for (const ArcGauge *gauge : view_.findChildren<ArcGauge *>()) {
+        EXPECT_TRUE(gauge->accessibleName().startsWith(QLatin1Char('~')));
+    }
+    QCoreApplication::removeTranslator(&marking);
+}
+
+} // namespace
+} // namespace zpsg::ui::test
