@@ -47,7 +47,8 @@ QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &mode
     object.insert(QStringLiteral("model"), model);
     const auto &entries = record.entries();
     for (auto entry = entries.constBegin(); entry != entries.constEnd(); ++entry) {
-        object.insert(entry.key(), entry->toDouble());
+        const bool known = record.measured(entry.key()) || entry.key().startsWith(QLatin1String("HW"));
+        object.insert(entry.key(), known ? QJsonValue(entry->toDouble()) : QJsonValue());
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }

@@ -27,6 +27,8 @@ inline constexpr std::size_t kInputReportSize = 64;
 class HidDevice {
 public:
     virtual ~HidDevice() = default;
+    HidDevice(const HidDevice &) = delete;
+    HidDevice &operator=(const HidDevice &) = delete;
 
     /// Writes one output report, report id first. The number of bytes written, or -1.
     virtual int write(std::span<const std::uint8_t> report) = 0;
@@ -37,8 +39,6 @@ public:
 
 protected:
     HidDevice() = default;
-    HidDevice(const HidDevice &) = delete;
-    HidDevice &operator=(const HidDevice &) = delete;
 };
 
 /// What the system says of a device without opening it.
@@ -48,6 +48,8 @@ enum class Presence { Absent, Denied, Present };
 class HidBackend {
 public:
     virtual ~HidBackend() = default;
+    HidBackend(const HidBackend &) = delete;
+    HidBackend &operator=(const HidBackend &) = delete;
 
     /// The library's initialisation; false when it failed. May be called any number of times.
     virtual bool initialise() = 0;
@@ -64,8 +66,6 @@ public:
 
 protected:
     HidBackend() = default;
-    HidBackend(const HidBackend &) = delete;
-    HidBackend &operator=(const HidBackend &) = delete;
 };
 
 } // namespace zpsg::psu

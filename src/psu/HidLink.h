@@ -17,11 +17,11 @@ namespace zpsg::psu {
 class LinkJob {
 public:
     virtual ~LinkJob() = default;
+    LinkJob(const LinkJob &) = delete;
+    LinkJob &operator=(const LinkJob &) = delete;
 
 protected:
     LinkJob() = default;
-    LinkJob(const LinkJob &) = delete;
-    LinkJob &operator=(const LinkJob &) = delete;
 
     /// Does one step on the link's thread; true when the job is finished. Between two steps other jobs get
     /// their turn, so a step is one exchange.

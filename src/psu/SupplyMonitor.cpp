@@ -10,8 +10,7 @@ using namespace std::chrono_literals;
 
 SupplyMonitor::SupplyMonitor(std::unique_ptr<HidBackend> backend, MonitorTiming timing, QObject *parent)
     : QObject(parent), timing_(timing), link_(std::move(backend), timing.port) {
-    link_.onLateFinish(
-        [this] { QMetaObject::invokeMethod(this, &SupplyMonitor::lateFinish, Qt::QueuedConnection); });
+    link_.onLateFinish([this] { QMetaObject::invokeMethod(this, "lateFinish", Qt::QueuedConnection); });
 }
 
 bool SupplyMonitor::openAtStart() { return connectWith(OpenOrder::OpenFirst, true); }
@@ -84,6 +83,7 @@ void SupplyMonitor::readInfo() {
         link_.wait(rawPass_, patience);
     } else {
         std::vector<Request> questions;
+        questions.reserve(kQuantities.size());
         for (const auto &quantity : kQuantities) {
             questions.push_back(makeRequest({kReadClass, quantity.command}));
         }
@@ -112,7 +112,9 @@ void SupplyMonitor::collectMain(const ExchangeJob &job) {
         }
     }
     record_.deriveWatts();
-    passEnded(refreshed);
+    if (refreshed || !job.lost()) {
+        passEnded(refreshed);
+    }
     if (job.lost() && !reconnectAsked_) {
         reconnectAsked_ = true;
         emit reconnectDue();

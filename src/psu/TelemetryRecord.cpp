@@ -1,6 +1,15 @@
 #include "psu/TelemetryRecord.h"
 
+#include <array>
+#include <utility>
+
 namespace zpsg::psu {
+namespace {
+
+constexpr std::array kRails{std::pair{"VVOut12", "VIOut12"}, std::pair{"VVOut5", "VIOut5"},
+                            std::pair{"VVOut33", "VIOut33"}};
+
+} // namespace
 
 // HW12V, HW5V and HW33V are refreshed by no reading; the alarm supervision collects them.
 TelemetryRecord::TelemetryRecord()
@@ -21,13 +30,20 @@ TelemetryRecord::TelemetryRecord()
 
 void TelemetryRecord::store(const QString &key, float value) {
     values_[key] = QString::number(static_cast<double>(value), 'g', 6);
+    measured_.insert(key);
 }
 
 void TelemetryRecord::deriveWatts() {
-    const double watts = number(QStringLiteral("VVOut12")) * number(QStringLiteral("VIOut12")) +
-                         number(QStringLiteral("VVOut5")) * number(QStringLiteral("VIOut5")) +
-                         number(QStringLiteral("VVOut33")) * number(QStringLiteral("VIOut33"));
+    double watts = 0.0;
+    bool allMeasured = true;
+    for (const auto &[volts, amps] : kRails) {
+        watts += number(QLatin1String(volts)) * number(QLatin1String(amps));
+        allMeasured = allMeasured && measured(QLatin1String(volts)) && measured(QLatin1String(amps));
+    }
     store(QStringLiteral("WATTS"), static_cast<float>(watts));
+    if (!allMeasured) {
+        measured_.remove(QStringLiteral("WATTS"));
+    }
 }
 
 } // namespace zpsg::psu

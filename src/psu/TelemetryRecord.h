@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 namespace zpsg::psu {
@@ -20,7 +21,9 @@ public:
     /// The text as a number; 0 when it is missing or none.
     [[nodiscard]] double number(const QString &key) const { return values_.value(key).toDouble(); }
     void store(const QString &key, float value);
-    /// WATTS from the three rails' current texts.
+    /// Whether the value under `key` came from a supply; false while it is still the seed.
+    [[nodiscard]] bool measured(const QString &key) const { return measured_.contains(key); }
+    /// WATTS from the three rails' current texts; measured once all six of them are.
     void deriveWatts();
 
     /// All entries, by key.
@@ -28,6 +31,7 @@ public:
 
 private:
     QMap<QString, QString> values_;
+    QSet<QString> measured_;
 };
 
 } // namespace zpsg::psu

@@ -44,10 +44,14 @@ constexpr ArcGauge::Scale kInputScale{80.0, 270.0, 4, 1};
 constexpr ArcGauge::Scale kTemperatureScale{0.0, 80.0, 4, 0};
 constexpr ArcGauge::Scale kFanScale{0.0, 2500.0, 5, 0};
 
-/// Shows the record's value when it has one.
+/// The value when a supply has given it; a record holds plausible figures before that.
+std::optional<double> measured(const psu::TelemetryRecord &record, const QString &key) {
+    return record.measured(key) ? std::optional(record.number(key)) : std::nullopt;
+}
+
 void showEntry(ArcGauge &gauge, const psu::TelemetryRecord &record, const QString &key) {
-    if (!record.text(key).isEmpty()) {
-        gauge.showValue(record.number(key));
+    if (const auto value = measured(record, key)) {
+        gauge.showValue(*value);
     }
 }
 
@@ -156,16 +160,22 @@ void DashboardPage::showReading(const psu::TelemetryRecord &record, qint64 msSin
         trace_->append(msSinceEpoch, std::nullopt);
         return;
     }
-    const double watts = record.number(QStringLiteral("WATTS"));
-    output_->showValue(watts);
-    noteLoad(watts);
+    const auto watts = measured(record, QStringLiteral("WATTS"));
+    if (watts) {
+        output_->showValue(*watts);
+        noteLoad(*watts);
+    }
     showEntry(*input_, record, QStringLiteral("VIN"));
     showEntry(*temperature_, record, QStringLiteral("Temp"));
     showEntry(*fan_, record, QStringLiteral("FanSpeed"));
     const bool stands = fan_->readoutValue() && *fan_->readoutValue() <= kFanStandsRpm;
     fan_->setNote(stands ? qtTrId("MAIN_STR_FAN_STANDS") : QString());
     for (std::size_t i = 0; i < rails_.size(); ++i) {
-        rails_.at(i)->showReading(record.number(kRails.at(i).volts), record.number(kRails.at(i).amps));
+        const auto volts = measured(record, kRails.at(i).volts);
+        const auto amps = measured(record, kRails.at(i).amps);
+        if (volts && amps) {
+            rails_.at(i)->showReading(*volts, *amps);
+        }
     }
     trace_->append(msSinceEpoch, watts);
 }

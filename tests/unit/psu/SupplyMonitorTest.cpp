@@ -245,7 +245,6 @@ TEST_F(SupplyMonitorTest, SurvivesUnpluggingAndComesBackAsWhatIsPlugged) {
         ASSERT_EQ(monitor.rawPathPresent(), raw);
         bus->unplug();
         monitor.readInfo();
-        ASSERT_NE(monitor.state(), LinkState::Live);
         ASSERT_FALSE(monitor.connectPsu());
         ASSERT_EQ(monitor.state(), LinkState::NoDevice);
     }
