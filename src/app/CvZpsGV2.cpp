@@ -150,7 +150,8 @@ bool CvZpsGV2::connectPsu() {
 void CvZpsGV2::setUpPages() {
     auto *dashboard = view_->dashboard();
     dashboard->setDemo(demo_);
-    dashboard->setRemedy(QString::fromStdString(platform::deviceAccessRemedy()));
+    dashboard->setRemedy(
+        QString::fromStdString(platform::deviceAccessRemedy(paths_.resources.toStdString())));
     dashboard->showLinkState(monitor_.state(), monitor_.modelText());
     connect(&monitor_, &psu::SupplyMonitor::stateChanged, dashboard, [this, dashboard](psu::LinkState state) {
         dashboard->showLinkState(state, monitor_.modelText());

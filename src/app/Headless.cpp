@@ -1,6 +1,5 @@
 #include "app/Headless.h"
 
-#include "platform/DeviceAccess.h"
 #include "platform/DeviceWatch.h"
 
 #include <QDateTime>
@@ -62,9 +61,9 @@ QByteArray readingAsText(const psu::TelemetryRecord &record, const QDateTime &ti
     return line.toUtf8();
 }
 
-Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::FILE *out,
-                   std::FILE *notes)
-    : monitor_(std::move(backend)), format_(format), out_(out), notes_(notes) {
+Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
+                   std::FILE *out, std::FILE *notes)
+    : monitor_(std::move(backend)), format_(format), remedy_(std::move(remedy)), out_(out), notes_(notes) {
     connect(&monitor_, &psu::SupplyMonitor::readingTaken, this, &Headless::print);
     connect(&monitor_, &psu::SupplyMonitor::stateChanged, this, &Headless::note);
     connect(&monitor_, &psu::SupplyMonitor::reconnectDue, this, &Headless::deviceChanged,
@@ -125,7 +124,7 @@ void Headless::note(psu::LinkState state) {
     case psu::LinkState::NoPermission:
         std::fprintf(notes_,
                      "zpsg: a power supply is there, but this user may not open it. Allow it with:\n  %s\n",
-                     platform::deviceAccessRemedy().c_str());
+                     remedy_.c_str());
         break;
     case psu::LinkState::Silent:
         std::fputs("zpsg: the power supply does not answer; asking on\n", notes_);

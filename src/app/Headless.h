@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <string>
 
 namespace zpsg::platform {
 class DeviceWatch;
@@ -22,8 +23,9 @@ class Headless : public QObject {
 public:
     /// Readings go to `out`, one line each and flushed; what a person should know goes to `notes`. Both
     /// outlive this.
-    Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::FILE *out,
-             std::FILE *notes);
+    /// `remedy` is the command that gives this user access to the device.
+    Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
+             std::FILE *out, std::FILE *notes);
     ~Headless() override;
 
     /// Opens the supply, takes the first reading and starts the once-a-second timer.
@@ -40,6 +42,7 @@ private:
 
     psu::SupplyMonitor monitor_;
     ReadingFormat format_;
+    std::string remedy_;
     std::FILE *out_;
     std::FILE *notes_;
     QTimer readTimer_;

@@ -15,7 +15,7 @@ constexpr const char *kIniCodec = "UTF-8";
 
 /// The value as its row's type, within its row's range; the default when it is not of that type.
 QVariant fitted(const SettingRow &row, const QVariant &value) {
-    const QVariant fallback(QString::fromLatin1(row.fallback));
+    QVariant fallback(QString::fromLatin1(row.fallback));
     bool ok = true;
     switch (row.type) {
     case SettingType::Flag: {

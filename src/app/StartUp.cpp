@@ -2,11 +2,13 @@
 
 #include "app/Backend.h"
 #include "app/CvZpsGV2.h"
+#include "app/Logging.h"
 #include "platform/ExitRequest.h"
 #include "platform/SystemMenu.h"
 #include "platform/WindowRendezvous.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <cstdio>
@@ -29,6 +31,25 @@ int showOther() {
     return kExitOk;
 }
 
+/// Says in a debug line when the first reading is painted: what the start-up benchmark waits for.
+class FirstPaint : public QObject {
+public:
+    explicit FirstPaint(CvZpsGV2 &window) : QObject(&window), window_(window) {
+        window.centralWidget()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::Paint && window_.monitor().hasReading()) {
+            QTimer::singleShot(0, &window_, [] { qCDebug(lcApp) << "first reading on screen"; });
+            deleteLater();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    CvZpsGV2 &window_;
+};
+
 } // namespace
 
 int runWithWindow(QApplication &application, const CommandLine &line, const Paths &paths) {
@@ -49,6 +70,9 @@ int runWithWindow(QApplication &application, const CommandLine &line, const Path
     QApplication::setQuitOnLastWindowClosed(false);
     platform::onExitRequest([] { QCoreApplication::quit(); });
     CvZpsGV2 window({paths, makeBackend(line), line.demo});
+    if (lcApp().isDebugEnabled()) {
+        new FirstPaint(window); // the window owns it
+    }
     window.show();
     window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
     title->deliverTo(

@@ -3,6 +3,7 @@
 #include "app/Headless.h"
 #include "app/Paths.h"
 #include "app/StartUp.h"
+#include "platform/DeviceAccess.h"
 #include "platform/ExitRequest.h"
 #include "platform/NativeEvent.h"
 #include "platform/WindowRendezvous.h"
@@ -32,7 +33,7 @@ QStringList argumentsAfterName(int argc, char **argv) {
     return arguments;
 }
 
-int runHeadless(QCoreApplication &application, const app::CommandLine &line) {
+int runHeadless(QCoreApplication &application, const app::CommandLine &line, const app::Paths &paths) {
     // A demo touches no device and may run beside the program; otherwise two readers would take each other's
     // replies.
     std::unique_ptr<platform::TitleClaim> title;
@@ -45,7 +46,8 @@ int runHeadless(QCoreApplication &application, const app::CommandLine &line) {
         title->deliverTo([](const platform::WindowMessage &) { return false; });
     }
     app::Headless headless(app::makeBackend(line),
-                           line.json ? app::ReadingFormat::Json : app::ReadingFormat::Text, stdout, stderr);
+                           line.json ? app::ReadingFormat::Json : app::ReadingFormat::Text,
+                           platform::deviceAccessRemedy(paths.resources.toStdString()), stdout, stderr);
     QObject::connect(&headless, &app::Headless::outputFailed, &application,
                      [] { QCoreApplication::exit(app::kExitFailed); });
     platform::onExitRequest([] { QCoreApplication::quit(); });
@@ -81,10 +83,9 @@ int main(int argc, char **argv) {
     if (line->headless) {
         QCoreApplication application(argc, argv);
         name(application);
-        if (!app::findPaths(QCoreApplication::applicationFilePath(), line->dataDir, line->demo, error)) {
-            return wrongUse(error);
-        }
-        return runHeadless(application, *line);
+        const auto paths =
+            app::findPaths(QCoreApplication::applicationFilePath(), line->dataDir, line->demo, error);
+        return paths ? runHeadless(application, *line, *paths) : wrongUse(error);
     }
     if (!platform::displayAvailable()) {
         return complain(QStringLiteral("there is no display to show the window on; --headless needs none"),

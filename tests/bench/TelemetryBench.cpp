@@ -1,5 +1,5 @@
-// The program's own work in one telemetry pass: nine exchanges with the simulated supply in the same process, decoding
-// and formatting included. CPU time counts both threads' share only where the process clock is used.
+// The program's own work in one telemetry pass: nine exchanges with the simulated supply in the same process,
+// decoding and formatting included. CPU time counts both threads' share only where the process clock is used.
 
 #include "psu/SupplyMonitor.h"
 #include "psu/TelemetryDecoder.h"

@@ -13,8 +13,14 @@ DeviceAccess deviceAccess(const std::string &path) {
     return gone ? DeviceAccess::Missing : DeviceAccess::Denied;
 }
 
-std::string deviceAccessRemedy() {
-    return "sudo cp 71-zpsg.rules /etc/udev/rules.d/ && sudo udevadm control --reload && "
+std::string deviceAccessRemedy(const std::string &resourceDir) {
+    // In single quotes nothing but the quote itself means anything to a shell.
+    std::string file = resourceDir + "/71-zpsg.rules";
+    for (auto at = file.find('\''); at != std::string::npos; at = file.find('\'', at + 4)) {
+        file.replace(at, 1, "'\\''");
+    }
+    return "sudo cp '" + file +
+           "' /etc/udev/rules.d/ && sudo udevadm control --reload && "
            "sudo udevadm trigger --subsystem-match=hidraw";
 }
 

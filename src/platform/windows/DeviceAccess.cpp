@@ -5,6 +5,6 @@ namespace zpsg::platform {
 // Device interfaces of the HID class are open to every user.
 DeviceAccess deviceAccess(const std::string & /*path*/) { return DeviceAccess::Allowed; }
 
-std::string deviceAccessRemedy() { return {}; }
+std::string deviceAccessRemedy(const std::string & /*resourceDir*/) { return {}; }
 
 } // namespace zpsg::platform
