@@ -32,7 +32,7 @@ run build-thread -L threads "$@"
 echo "== As users run it"
 cmake --preset bench >/dev/null
 cmake --build build -- --quiet
-run build -LE asan-only "$@"
+run build "$@"
 
 if [ "$failed" -ne 0 ]; then
     echo "== Some tests failed (see above)"

@@ -243,7 +243,7 @@ void CvZpsGV2::deviceChanged() {
     }
     qCDebug(lcApp) << "Still Exist";
     readTimer_->start(1000);
-    QTimer::singleShot(0, this, &CvZpsGV2::readInfo); // values at once, in an event of their own
+    QMetaObject::invokeMethod(this, "readInfo", Qt::QueuedConnection); // at once, in an event of its own
     view_->setMainEnabled(true);
 }
 

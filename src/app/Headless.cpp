@@ -95,7 +95,7 @@ void Headless::deviceChanged() {
     if (monitor_.modelText().isEmpty()) {
         monitor_.readModelText();
     }
-    QTimer::singleShot(0, &monitor_, &psu::SupplyMonitor::readInfo);
+    QMetaObject::invokeMethod(&monitor_, "readInfo", Qt::QueuedConnection);
 }
 
 void Headless::print() {

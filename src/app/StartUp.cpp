@@ -38,16 +38,25 @@ public:
         window.centralWidget()->installEventFilter(this);
     }
 
+    ~FirstPaint() override {
+        if (painted_) {
+            qCDebug(lcApp) << "first reading on screen";
+        }
+    }
+    FirstPaint(const FirstPaint &) = delete;
+    FirstPaint &operator=(const FirstPaint &) = delete;
+
     bool eventFilter(QObject *watched, QEvent *event) override {
         if (event->type() == QEvent::Paint && window_.monitor().hasReading()) {
-            QTimer::singleShot(0, &window_, [] { qCDebug(lcApp) << "first reading on screen"; });
-            deleteLater();
+            painted_ = true;
+            deleteLater(); // once this event has been dealt with
         }
         return QObject::eventFilter(watched, event);
     }
 
 private:
     CvZpsGV2 &window_;
+    bool painted_ = false;
 };
 
 } // namespace
@@ -78,7 +87,7 @@ int runWithWindow(QApplication &application, const CommandLine &line, const Path
     title->deliverTo(
         [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
     if (line.startHidden) {
-        QTimer::singleShot(kHideAfterMilliseconds, &window, &QWidget::hide);
+        QTimer::singleShot(kHideAfterMilliseconds, &window, SLOT(hide()));
     }
     platform::trimSystemMenu(platform::kMainWindowTitle);
     return application.exec();

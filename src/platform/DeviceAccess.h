@@ -15,8 +15,8 @@ enum class DeviceAccess {
 /// permissions on device interfaces the answer is Allowed.
 DeviceAccess deviceAccess(const std::string &path);
 
-/// What the user does about Denied, as one shell command; empty where it can't happen. `resourceDir` is the folder of
-/// what ships with the program: the rule that grants access stands in it.
+/// What the user does about Denied, as one shell command; empty where it can't happen. `resourceDir` is the
+/// folder of what ships with the program: the rule that grants access stands in it.
 std::string deviceAccessRemedy(const std::string &resourceDir);
 
 } // namespace zpsg::platform

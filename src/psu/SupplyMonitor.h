@@ -46,7 +46,7 @@ public:
     bool connectPsu();
 
     /// One telemetry pass. Returns at once when no supply is connected or the last pass is still running.
-    void readInfo();
+    Q_INVOKABLE void readInfo();
 
     /// Asks the open main path for the model text; empty when there is no answer. Bytes are Latin-1.
     QString readModelText();

@@ -42,7 +42,8 @@ void titles() {
 void devices() {
     expect(RawHid::open(0x264A, 0xFFFF) == nullptr, "no such product");
     expect(DeviceWatch::start([](const WindowMessage &) { return true; }) != nullptr, "device notices");
-    expect(deviceAccess("x") == DeviceAccess::Allowed && deviceAccessRemedy("x").empty(), "no permissions here");
+    expect(deviceAccess("x") == DeviceAccess::Allowed && deviceAccessRemedy("x").empty(),
+           "no permissions here");
 }
 
 void settings() {
