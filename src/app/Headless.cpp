@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
 
 #include <array>
 
@@ -39,11 +40,13 @@ QByteArray headingLine() {
 
 } // namespace
 
-QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &model, const QDateTime &time) {
+QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &model, const QStringList &alarms,
+                         const QDateTime &time) {
     QJsonObject object;
     object.insert(QStringLiteral("time"),
                   time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODateWithMs));
     object.insert(QStringLiteral("model"), model);
+    object.insert(QStringLiteral("alarms"), QJsonArray::fromStringList(alarms));
     const auto &entries = record.entries();
     for (auto entry = entries.constBegin(); entry != entries.constEnd(); ++entry) {
         const bool known = record.measured(entry.key()) || entry.key().startsWith(QLatin1String("HW"));
@@ -63,7 +66,12 @@ QByteArray readingAsText(const psu::TelemetryRecord &record, const QDateTime &ti
 
 Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
                    std::FILE *out, std::FILE *notes)
-    : monitor_(std::move(backend)), format_(format), remedy_(std::move(remedy)), out_(out), notes_(notes) {
+    : monitor_(std::move(backend))
+    , alarms_([] { return QRandomGenerator::global()->generate(); })
+    , format_(format)
+    , remedy_(std::move(remedy))
+    , out_(out)
+    , notes_(notes) {
     connect(&monitor_, &psu::SupplyMonitor::readingTaken, this, &Headless::print);
     connect(&monitor_, &psu::SupplyMonitor::stateChanged, this, &Headless::note);
     connect(&monitor_, &psu::SupplyMonitor::reconnectDue, this, &Headless::deviceChanged,
@@ -99,10 +107,13 @@ void Headless::deviceChanged() {
 }
 
 void Headless::print() {
+    for (const auto begun : alarms_.tick(monitor_.record())) {
+        std::fprintf(notes_, "zpsg: alarm: %s\n", psu::alarmName(begun));
+    }
     const auto now = QDateTime::currentDateTime();
     QByteArray line;
     if (format_ == ReadingFormat::Json) {
-        line = readingAsJson(monitor_.record(), monitor_.modelText(), now);
+        line = readingAsJson(monitor_.record(), monitor_.modelText(), alarms_.activeNames(), now);
     } else {
         line = lines_++ % kLinesPerHeading == 0 ? headingLine() + '\n' : QByteArray();
         line += readingAsText(monitor_.record(), now);

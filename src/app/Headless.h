@@ -1,6 +1,7 @@
 // The program without a window: reads the supply once a second and prints each reading.
 #pragma once
 
+#include "psu/AlarmSupervisor.h"
 #include "psu/SupplyMonitor.h"
 
 #include <QTimer>
@@ -41,6 +42,7 @@ private:
     void deviceChanged();
 
     psu::SupplyMonitor monitor_;
+    psu::AlarmSupervisor alarms_;
     ReadingFormat format_;
     std::string remedy_;
     std::FILE *out_;
@@ -51,8 +53,10 @@ private:
     bool troubled_ = false; // the last note told of a fault
 };
 
-/// One reading as a line, without the line's end. Pure, for tests and for whoever prints.
-QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &model, const QDateTime &time);
+/// One reading as a line (`alarms` are the names of those that hold), without the line's end. Pure, for tests
+/// and for whoever prints.
+QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &model, const QStringList &alarms,
+                         const QDateTime &time);
 QByteArray readingAsText(const psu::TelemetryRecord &record, const QDateTime &time);
 
 } // namespace zpsg::app

@@ -61,7 +61,7 @@ private:
 
 } // namespace
 
-int runWithWindow(QApplication &application, const CommandLine &line, const Paths &paths) {
+int runWithWindow(const CommandLine &line, const Paths &paths) {
     // Before the single-instance check, so that a second instance sends it as well. A demo takes no device.
     if (!line.demo) {
         platform::sendToWindow(platform::kCompanionWindowTitle, {platform::kCompanionNotice, 0, 1},
@@ -90,7 +90,7 @@ int runWithWindow(QApplication &application, const CommandLine &line, const Path
         QTimer::singleShot(kHideAfterMilliseconds, &window, SLOT(hide()));
     }
     platform::trimSystemMenu(platform::kMainWindowTitle);
-    return application.exec();
+    return QApplication::exec();
 }
 
 } // namespace zpsg::app

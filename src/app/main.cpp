@@ -93,12 +93,12 @@ int main(int argc, char **argv) {
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     name(application);
     const auto paths =
         app::findPaths(QCoreApplication::applicationFilePath(), line->dataDir, line->demo, error);
     if (!paths) {
         return wrongUse(error);
     }
-    return app::runWithWindow(application, *line, *paths);
+    return app::runWithWindow(*line, *paths);
 }

@@ -47,11 +47,15 @@ protected:
     void expectTold(double relative) {
         const auto shown = reading();
         ASSERT_FALSE(shown.isEmpty()) << "no reading came";
-        const std::pair<const char *, double> rows[] = {
-            {"VIN", told_.acVolts},        {"VVOut12", told_.volts12}, {"VIOut12", told_.amps12},
-            {"VVOut5", told_.volts5},      {"VIOut5", told_.amps5},    {"VVOut33", told_.volts33},
-            {"VIOut33", told_.amps33},     {"Temp", told_.celsius},    {"FanSpeed", told_.fanRpm},
-            {"WATTS", told_.outputWatts()}};
+        struct Row {
+            const char *key;
+            double value;
+        };
+        const std::array rows{Row{"VIN", told_.acVolts},     Row{"VVOut12", told_.volts12},
+                              Row{"VIOut12", told_.amps12},  Row{"VVOut5", told_.volts5},
+                              Row{"VIOut5", told_.amps5},    Row{"VVOut33", told_.volts33},
+                              Row{"VIOut33", told_.amps33},  Row{"Temp", told_.celsius},
+                              Row{"FanSpeed", told_.fanRpm}, Row{"WATTS", told_.outputWatts()}};
         for (const auto &[key, value] : rows) {
             EXPECT_NEAR(shown[QLatin1String(key)].toDouble(), value, value * (relative + 1e-5)) << key;
         }
@@ -157,8 +161,8 @@ TEST_F(ProgramTest, RidesOutEveryKindOfBadAnswer) {
 
 TEST_F(ProgramTest, NamesTheRuleWhenItMayNotOpenTheNode) {
     plug(Product::Main);
-    int ends[2];
-    ASSERT_EQ(pipe(ends), 0);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
     const int own = dup(STDERR_FILENO);
     dup2(ends[1], STDERR_FILENO); // the program inherits it
     program_ = std::make_unique<ChildProcess>(

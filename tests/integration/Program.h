@@ -60,14 +60,15 @@ public:
         return process;
     }
 
-    std::unique_ptr<QProcess> start(const QStringList &arguments, const char *program = ZPSG_PROGRAM) const {
+    [[nodiscard]] std::unique_ptr<QProcess> start(const QStringList &arguments,
+                                                  const char *program = ZPSG_PROGRAM) const {
         auto process = make();
         process->start(QLatin1String(program), arguments);
         EXPECT_TRUE(process->waitForStarted(kPatience));
         return process;
     }
 
-    Outcome run(const QStringList &arguments) const {
+    [[nodiscard]] Outcome run(const QStringList &arguments) const {
         auto process = start(arguments);
         return finish(*process);
     }

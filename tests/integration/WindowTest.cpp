@@ -83,9 +83,9 @@ TEST_F(WindowTest, StaysShownForAnyOtherWord) {
 }
 
 TEST_F(WindowTest, OfTwentyStartsAtOnceOneStays) {
-    std::vector<std::unique_ptr<QProcess>> starts;
-    for (int i = 0; i < 20; ++i) {
-        starts.push_back(startDemo());
+    std::vector<std::unique_ptr<QProcess>> starts(20);
+    for (auto &start : starts) {
+        start = startDemo();
     }
     const auto running = [&starts] {
         return std::count_if(starts.begin(), starts.end(), [](const auto &process) {

@@ -8,8 +8,7 @@ namespace {
 
 std::optional<CommandLine> parse(const char *words, QString *why = nullptr) {
     QString error;
-    const auto line =
-        parseCommandLine(QString::fromUtf8(words).split(QLatin1Char(' '), Qt::SkipEmptyParts), error);
+    auto line = parseCommandLine(QString::fromUtf8(words).split(QLatin1Char(' '), Qt::SkipEmptyParts), error);
     EXPECT_NE(line.has_value(), !error.isEmpty()) << words;
     EXPECT_FALSE(error.contains(QLatin1Char('\n')));
     if (why != nullptr) {

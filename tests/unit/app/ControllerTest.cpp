@@ -45,8 +45,8 @@ TEST_F(ControllerTest, StartsItsTimersInOrder) {
 
 // Other programs reach the slots by number: the order is a contract.
 TEST_F(ControllerTest, DeclaresItsSignalsAndSlotsInTheAgreedOrder) {
-    const QMetaObject &meta = app::CvZpsGV2::staticMetaObject;
-    const auto signature = [&meta](int index) {
+    static const QMetaObject &meta = app::CvZpsGV2::staticMetaObject;
+    const auto signature = [](int index) {
         return meta.method(meta.methodOffset() + index).methodSignature().toStdString();
     };
     EXPECT_EQ(signature(0), "mainToSocketHelpRGB_State(bool,int)");

@@ -17,7 +17,7 @@ protected:
         executable = dir.filePath(QStringLiteral("app/bin/zpsg"));
         QDir(dir.path()).mkpath(QStringLiteral("app/bin"));
     }
-    ~PathsTest() override { qunsetenv("XDG_DATA_HOME"); }
+    void TearDown() override { qunsetenv("XDG_DATA_HOME"); }
 
     QTemporaryDir dir;
     QString executable;

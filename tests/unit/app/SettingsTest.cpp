@@ -16,7 +16,7 @@ namespace {
 
 class SettingsTest : public ::testing::Test {
 protected:
-    QString general() const { return dir.filePath(QStringLiteral("config_ZPSG.ini")); }
+    [[nodiscard]] QString general() const { return dir.filePath(QStringLiteral("config_ZPSG.ini")); }
 
     void put(const QByteArray &content) const {
         QFile file(general());
@@ -24,7 +24,7 @@ protected:
         file.write(content);
     }
 
-    QByteArray content() const {
+    [[nodiscard]] QByteArray content() const {
         QFile file(general());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
     }
