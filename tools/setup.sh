@@ -7,6 +7,7 @@ build_packages=(
     librsvg2-bin fonts-inter fonts-dejavu-core
 )
 test_packages=(
+    git
     clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick

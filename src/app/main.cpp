@@ -91,6 +91,7 @@ int main(int argc, char **argv) {
         return complain(QStringLiteral("there is no display to show the window on; --headless needs none"),
                         app::kExitFailed);
     }
+    platform::prepareToolkit();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);

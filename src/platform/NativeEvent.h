@@ -14,4 +14,9 @@ std::optional<WindowMessage> fromNativeEvent(void *event);
 /// Whether a window can be shown: a display server is named, or one is not needed.
 bool displayAvailable();
 
+/// Call before the application object exists. Leaves out what the toolkit would load for nothing: on X11 its
+/// OpenGL side brings in a whole compiler, more memory than the rest of the program. A choice of the user's
+/// own stays.
+void prepareToolkit();
+
 } // namespace zpsg::platform

@@ -17,4 +17,8 @@ bool displayAvailable() {
     });
 }
 
+void prepareToolkit() {
+    setenv("QT_XCB_GL_INTEGRATION", "none", 0); // NOLINT(concurrency-mt-unsafe): no thread has been started
+}
+
 } // namespace zpsg::platform

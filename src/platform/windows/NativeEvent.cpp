@@ -15,4 +15,6 @@ std::optional<WindowMessage> fromNativeEvent(void *event) {
 
 bool displayAvailable() { return true; }
 
+void prepareToolkit() {}
+
 } // namespace zpsg::platform
