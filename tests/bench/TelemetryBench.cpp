@@ -9,6 +9,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <chrono>
+
 using namespace zpsg;
 
 namespace {
@@ -29,6 +31,27 @@ void telemetryPass(benchmark::State &state) {
     }
 }
 BENCHMARK(telemetryPass)->MeasureProcessCPUTime()->UseRealTime()->Unit(benchmark::kMicrosecond);
+
+/// How long the caller is held by a supply that has stopped answering: range 0 is the first call, 1 a later
+/// one.
+void passOnSilentSupply(benchmark::State &state) {
+    for (auto _ : state) {
+        const auto bus = simulator::SimulatedBus::create();
+        bus->plug(simulator::SupplyModel());
+        psu::SupplyMonitor monitor(bus->backend());
+        monitor.openAtStart();
+        bus->blockWrites(true);
+        const auto held = [&monitor] {
+            const auto begin = std::chrono::steady_clock::now();
+            monitor.readInfo();
+            return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+        };
+        const double first = held();
+        state.SetIterationTime(state.range(0) == 0 ? first : held());
+        bus->blockWrites(false);
+    }
+}
+BENCHMARK(passOnSilentSupply)->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
 
 void decodeOneReply(benchmark::State &state) {
     psu::Reply reply{{0x31, 0x34, 0x0C, 0xD3}, 64};
