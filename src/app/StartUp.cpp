@@ -72,7 +72,7 @@ int runWithWindow(const CommandLine &line, const Paths &paths) {
     }
     // Of several starts at the same moment all get here; one takes the title.
     const auto title = platform::TitleClaim::tryTake(platform::kMainWindowTitle);
-    if (!title) {
+    if (!title && platform::windowExists(platform::kMainWindowTitle)) {
         return showOther();
     }
 
@@ -84,8 +84,10 @@ int runWithWindow(const CommandLine &line, const Paths &paths) {
     }
     window.show();
     window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
-    title->deliverTo(
-        [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
+    if (title) { // the system may have refused it; better a program that a second start can't find than none
+        title->deliverTo(
+            [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
+    }
     if (line.startHidden) {
         QTimer::singleShot(kHideAfterMilliseconds, &window, SLOT(hide()));
     }

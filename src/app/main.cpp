@@ -39,11 +39,13 @@ int runHeadless(QCoreApplication &application, const app::CommandLine &line, con
     std::unique_ptr<platform::TitleClaim> title;
     if (!line.demo) {
         title = platform::TitleClaim::tryTake(platform::kMainWindowTitle);
-        if (!title) {
+        if (!title && platform::windowExists(platform::kMainWindowTitle)) {
             return complain(QStringLiteral("already running, and only one program can read the supply"),
                             app::kExitFailed);
         }
-        title->deliverTo([](const platform::WindowMessage &) { return false; });
+        if (title) {
+            title->deliverTo([](const platform::WindowMessage &) { return false; });
+        }
     }
     app::Headless headless(app::makeBackend(line),
                            line.json ? app::ReadingFormat::Json : app::ReadingFormat::Text,
