@@ -27,6 +27,10 @@ MainView::MainView(QWidget *parent)
     layout->addWidget(titleBar_);
     layout->addWidget(pages_, 1);
 
+    // The window opens with no control marked; the first Tab marks one.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
+
     new WindowFrame(this);
     setStyleSheet(style::sheet());
 }
