@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <thread>
 
 using namespace zpsg;
 using namespace std::chrono_literals;
@@ -225,8 +226,11 @@ TEST_F(SupplyMonitorTest, AConnectionThatBlocksArrivesLater) {
     bus->blockWrites(true);
     QSignalSpy due(&hasty, &psu::SupplyMonitor::reconnectDue);
     EXPECT_FALSE(hasty.connectPsu());
-    EXPECT_FALSE(hasty.connectPsu()); // still the same attempt
-    EXPECT_EQ(bus->openDevices(), 1);
+    while (bus->openDevices() == 0) { // the link's thread has got as far as the write
+        std::this_thread::yield();
+    }
+    EXPECT_FALSE(hasty.connectPsu());  // still the same attempt
+    EXPECT_EQ(bus->openAttempts(), 2); // one for each product
     bus->blockWrites(false);
     ASSERT_TRUE(due.wait(kLong));
     EXPECT_TRUE(hasty.connectPsu());
