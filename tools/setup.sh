@@ -11,7 +11,7 @@ test_packages=(
     clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick
-    qemu-system-x86 busybox-static cpio kmod
+    qemu-system-x86 busybox-static cpio kmod xz-utils
     strace
 )
 
