@@ -55,7 +55,6 @@ public:
     bool connectPsu();
 
     [[nodiscard]] psu::SupplyMonitor &monitor() { return monitor_; }
-    [[nodiscard]] Settings &settings() { return settings_; }
 
 signals:
     void mainToSocketHelpRGB_State(bool powerPresent, int lightingKind);

@@ -27,6 +27,9 @@ constexpr std::array kColumns{
     Column{"FanSpeed", "fan rpm", 0, 9},
 };
 
+/// No window stands still meanwhile.
+constexpr std::chrono::milliseconds kPatience(1000);
+
 constexpr int kTimeWidth = 8;
 constexpr int kLinesPerHeading = 40;
 
@@ -66,7 +69,7 @@ QByteArray readingAsText(const psu::TelemetryRecord &record, const QDateTime &ti
 
 Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
                    std::FILE *out, std::FILE *notes)
-    : monitor_(std::move(backend))
+    : monitor_(std::move(backend), {{}, kPatience})
     , alarms_([] { return QRandomGenerator::global()->generate(); })
     , format_(format)
     , remedy_(std::move(remedy))

@@ -54,9 +54,12 @@ QString SupplyMonitor::readModelText() {
     if (path_ == Path::Raw) {
         return readRawBlockA() ? modelText_ : QString();
     }
+    if (path_ != Path::Main) {
+        return {};
+    }
     const auto job = std::make_shared<ExchangeJob>(std::vector{makeRequest({kReadClass, kModelTextCommand})});
     link_.submit(job);
-    if (path_ != Path::Main || !link_.wait(job, timing_.patience) || job->replies().empty()) {
+    if (!link_.wait(job, timing_.patience) || job->replies().empty()) {
         return {};
     }
     modelText_ = QString::fromLatin1(replyText(job->replies().front()).c_str());

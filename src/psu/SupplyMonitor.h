@@ -25,7 +25,7 @@ enum class LinkState {
 /// itself and its values arrive with a later event.
 struct MonitorTiming {
     PortTiming port{};
-    std::chrono::milliseconds patience{200};
+    std::chrono::milliseconds patience{120}; // an event may wait twice: to connect, and for the model text
 };
 
 /// GUI thread only; the device itself is driven by the link's thread.

@@ -165,11 +165,6 @@ void SimulatedBus::unplug() {
     }
 }
 
-bool SimulatedBus::plugged() const {
-    const std::lock_guard lock(mutex_);
-    return plugged_ != nullptr;
-}
-
 void SimulatedBus::withModel(const std::function<void(SupplyModel &)> &action) {
     const std::lock_guard lock(mutex_);
     if (plugged_) {

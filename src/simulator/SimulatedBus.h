@@ -23,7 +23,6 @@ public:
     void plug(SupplyModel model, std::uint16_t product = psu::kMainProductId);
     /// Open devices fail from now on, also in the middle of a read or a blocked write.
     void unplug();
-    [[nodiscard]] bool plugged() const;
 
     /// Runs `action` on the model under the bus's lock. Nothing happens while nothing is plugged in.
     void withModel(const std::function<void(SupplyModel &)> &action);

@@ -21,8 +21,11 @@ protected:
     }
 
     std::unique_ptr<app::CvZpsGV2> make() {
-        return std::make_unique<app::CvZpsGV2>(app::WindowParts{
-            {dir.filePath(QStringLiteral("zpsg")), dir.path(), dir.path()}, bus->backend(), false, {}});
+        return std::make_unique<app::CvZpsGV2>(
+            app::WindowParts{{dir.filePath(QStringLiteral("zpsg")), dir.path(), dir.path()},
+                             bus->backend(),
+                             false,
+                             {{}, std::chrono::seconds(5)}});
     }
 
     QTimer *readTimer(app::CvZpsGV2 &window) {
