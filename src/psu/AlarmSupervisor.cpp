@@ -55,8 +55,8 @@ const char *alarmName(AlarmKind kind) { return rowOf(kind).name; }
 
 AlarmSupervisor::AlarmSupervisor(std::function<unsigned()> random) : random_(std::move(random)) {}
 
-std::vector<AlarmKind> AlarmSupervisor::tick(const TelemetryRecord &record) {
-    std::vector<AlarmKind> begun;
+AlarmSupervisor::Changes AlarmSupervisor::tick(const TelemetryRecord &record) {
+    Changes changes;
     for (const Row &row : kRows) {
         History &history = histories_.at(index(row.kind));
         const bool rail = row.companionKey != nullptr;
@@ -71,12 +71,13 @@ std::vector<AlarmKind> AlarmSupervisor::tick(const TelemetryRecord &record) {
         const auto bad =
             std::count_if(history.samples.begin(), history.samples.end(),
                           [&row](const Sample &sample) { return outOfRange(row, sample.value); });
-        const bool was = std::exchange(history.active, static_cast<std::size_t>(bad) > kTolerated);
-        if (history.active && !was) {
-            begun.push_back(row.kind);
+        const bool warned = warnings_.at(static_cast<std::size_t>(groupOf(row.kind)));
+        const bool was = std::exchange(history.active, warned && static_cast<std::size_t>(bad) > kTolerated);
+        if (history.active != was) {
+            (was ? changes.ended : changes.begun).push_back(row.kind);
         }
     }
-    return begun;
+    return changes;
 }
 
 QStringList AlarmSupervisor::activeNames() const {
@@ -90,8 +91,8 @@ QStringList AlarmSupervisor::activeNames() const {
     return names;
 }
 
-double AlarmSupervisor::shownVolts(AlarmKind rail) const {
-    const auto &samples = histories_.at(index(rail)).samples;
+double AlarmSupervisor::shown(AlarmKind kind) const {
+    const auto &samples = histories_.at(index(kind)).samples;
     return samples.empty() ? 0.0 : samples.back().value;
 }
 

@@ -2,6 +2,7 @@
 // one-second samples. Pure state and arithmetic: whoever owns it calls tick() once a second.
 #pragma once
 
+#include "psu/AlarmEntry.h"
 #include "psu/TelemetryRecord.h"
 
 #include <array>
@@ -10,9 +11,6 @@
 #include <vector>
 
 namespace zpsg::psu {
-
-enum class AlarmKind { Rail12, Rail5, Rail33, Fan, Temperature };
-inline constexpr std::size_t kAlarmKinds = 5;
 
 /// The name under which an alarm is handed to other programs: "voltError" for each rail, "fansError",
 /// "PSU_Temp_Error".
@@ -24,14 +22,23 @@ public:
     /// part of what is supervised.
     explicit AlarmSupervisor(std::function<unsigned()> random);
 
-    /// Takes in one sample; the alarms that began with it.
-    std::vector<AlarmKind> tick(const TelemetryRecord &record);
+    struct Changes {
+        std::vector<AlarmKind> begun;
+        std::vector<AlarmKind> ended;
+    };
+    /// Takes in one sample; the alarms that began and ended with it.
+    Changes tick(const TelemetryRecord &record);
+
+    /// While a group's warnings are off its samples are taken in and no alarm of it is raised; one that holds
+    /// ends with the next tick.
+    void setWarning(AlarmGroup group, bool on) { warnings_.at(static_cast<std::size_t>(group)) = on; }
 
     [[nodiscard]] bool active(AlarmKind kind) const { return histories_.at(index(kind)).active; }
     /// The names of the alarms that hold now, each once.
     [[nodiscard]] QStringList activeNames() const;
-    /// The rail's voltage with its offset as of the last tick, volts; 0 before the first.
-    [[nodiscard]] double shownVolts(AlarmKind rail) const;
+    /// What was supervised at the last tick: a rail's voltage with its offset, revolutions a minute, degrees
+    /// Celsius; 0 before the first, and for a fan that is meant to stand.
+    [[nodiscard]] double shown(AlarmKind kind) const;
 
     /// While the fan is meant to stand still its history stays empty.
     void expectStandingFan(bool expected) { fanMayStand_ = expected; }
@@ -49,6 +56,7 @@ private:
 
     std::function<unsigned()> random_;
     std::array<History, kAlarmKinds> histories_;
+    std::array<bool, kAlarmGroups> warnings_{true, true, true};
     bool fanMayStand_ = false;
 };
 

@@ -32,6 +32,10 @@ inline constexpr Request kWakeUp = makeRequest({0xFE, 0x31});
 inline constexpr std::uint8_t kReadClass = 0x31;
 /// Second byte of the request for the model text.
 inline constexpr std::uint8_t kModelTextCommand = 0x3D;
+/// Second byte of the request for the serial number.
+inline constexpr std::uint8_t kSerialCommand = 0x3E;
+/// What a supply without a serial number answers.
+inline constexpr const char *kNoSerial = "noSN";
 
 /// One monitored quantity: the command byte and the record's key.
 struct Quantity {

@@ -2,11 +2,32 @@
 
 #include "psu/Logging.h"
 
+#include <algorithm>
+
 Q_LOGGING_CATEGORY(lcPsu, "zpsg.psu", QtInfoMsg)
 
 namespace zpsg::psu {
 
 using namespace std::chrono_literals;
+
+namespace {
+
+/// A supply that never tells its model is not asked for ever: each question without an answer takes a second
+/// of the link's time.
+constexpr int kMostIdentityAttempts = 3;
+
+template <std::size_t N>
+QString blockText(const std::array<std::uint8_t, N> &block) {
+    const auto end = std::find(block.begin(), block.end(), 0);
+    return QString::fromLatin1(
+        QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<int>(end - block.begin())));
+}
+
+std::shared_ptr<ExchangeJob> question(std::uint8_t command) {
+    return std::make_shared<ExchangeJob>(std::vector{makeRequest({kReadClass, command})});
+}
+
+} // namespace
 
 SupplyMonitor::SupplyMonitor(std::unique_ptr<HidBackend> backend, MonitorTiming timing, QObject *parent)
     : QObject(parent), timing_(timing), link_(std::move(backend), timing.port) {
@@ -22,6 +43,8 @@ bool SupplyMonitor::connectWith(OpenOrder order, bool atStart) {
     if (!connecting_) {
         pass_.reset(); // an unfinished pass belongs to the handle that is about to be closed
         rawPass_.reset();
+        identity_.clear();
+        identityAttempts_ = 0;
         connecting_ = std::make_shared<ConnectJob>(order);
         link_.submit(connecting_);
     }
@@ -57,13 +80,62 @@ QString SupplyMonitor::readModelText() {
     if (path_ != Path::Main) {
         return {};
     }
-    const auto job = std::make_shared<ExchangeJob>(std::vector{makeRequest({kReadClass, kModelTextCommand})});
+    const auto job = question(kModelTextCommand);
     link_.submit(job);
     if (!link_.wait(job, timing_.patience) || job->replies().empty()) {
         return {};
     }
     modelText_ = QString::fromLatin1(replyText(job->replies().front()).c_str());
     return modelText_;
+}
+
+bool SupplyMonitor::readIdentity() { return askIdentity(timing_.patience); }
+
+bool SupplyMonitor::askIdentity(std::chrono::milliseconds patience) {
+    if (path_ == Path::None) {
+        return false;
+    }
+    if (identity_.empty()) {
+        submitIdentity();
+    }
+    link_.wait(identity_.back(), patience);
+    collect();
+    return identityKnown_;
+}
+
+void SupplyMonitor::submitIdentity() {
+    ++identityAttempts_;
+    if (path_ == Path::Raw) {
+        identity_ = {std::make_shared<RawReadJob>(kRawBlockBReport, kRawBlockSize),
+                     std::make_shared<RawReadJob>(kRawBlockAReport, kRawBlockSize)};
+    } else {
+        identity_ = {question(kSerialCommand), question(kModelTextCommand)};
+    }
+    for (const auto &job : identity_) {
+        link_.submit(job);
+    }
+}
+
+void SupplyMonitor::collectIdentity() {
+    const auto jobs = std::exchange(identity_, {});
+    bool known = false;
+    if (path_ == Path::Raw) {
+        storeRawBlock(1, static_cast<const RawReadJob &>(*jobs.front()));
+        known = storeRawBlock(0, static_cast<const RawReadJob &>(*jobs.back()));
+    } else {
+        const auto &serial = static_cast<const ExchangeJob &>(*jobs.front()).replies();
+        const auto &model = static_cast<const ExchangeJob &>(*jobs.back()).replies();
+        if (!serial.empty()) {
+            serialText_ = QString::fromLatin1(replyText(serial.front()).c_str());
+        }
+        known = !model.empty();
+        if (known) {
+            modelText_ = QString::fromLatin1(replyText(model.front()).c_str());
+        }
+    }
+    if (known && !std::exchange(identityKnown_, true)) {
+        emit identityTaken();
+    }
 }
 
 void SupplyMonitor::send(const Request &request) {
@@ -104,6 +176,9 @@ void SupplyMonitor::collect() {
     if (rawPass_ && link_.finished(*rawPass_)) {
         collectRaw(*std::exchange(rawPass_, nullptr));
     }
+    if (!identity_.empty() && link_.finished(*identity_.front()) && link_.finished(*identity_.back())) {
+        collectIdentity();
+    }
 }
 
 void SupplyMonitor::collectMain(const ExchangeJob &job) {
@@ -115,6 +190,9 @@ void SupplyMonitor::collectMain(const ExchangeJob &job) {
         }
     }
     record_.deriveWatts();
+    if (derive_) {
+        derive_(record_);
+    }
     if (refreshed || !job.lost()) {
         passEnded(refreshed);
     }
@@ -161,16 +239,16 @@ void SupplyMonitor::fill(const RawSample &sample) {
 bool SupplyMonitor::readRawBlock(std::size_t which, std::uint8_t id) {
     const auto job = std::make_shared<RawReadJob>(id, kRawBlockSize);
     link_.submit(job);
-    if (!link_.wait(job, timing_.patience) || !job->succeeded()) {
+    return link_.wait(job, timing_.patience) && storeRawBlock(which, *job);
+}
+
+bool SupplyMonitor::storeRawBlock(std::size_t which, const RawReadJob &job) {
+    if (!job.succeeded()) {
         return false;
     }
-    std::copy(job->report().begin() + 1, job->report().end(), blocks_.at(which).begin());
-    if (which == 0) {
-        const auto &block = blocks_.at(0);
-        const auto end = std::find(block.begin(), block.end(), 0);
-        modelText_ = QString::fromLatin1(
-            QByteArray(reinterpret_cast<const char *>(block.data()), static_cast<int>(end - block.begin())));
-    }
+    auto &block = blocks_.at(which);
+    std::copy(job.report().begin() + 1, job.report().end(), block.begin());
+    (which == 0 ? modelText_ : serialText_) = blockText(block);
     return true;
 }
 
@@ -179,6 +257,9 @@ void SupplyMonitor::passEnded(bool refreshed) {
     if (refreshed) {
         hasReading_ = true;
         emit readingTaken();
+        if (!identityKnown_ && identity_.empty() && identityAttempts_ < kMostIdentityAttempts) {
+            askIdentity(0ms); // it answers readings now, so it may tell its model as well
+        }
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <chrono>
+#include <functional>
 
 namespace zpsg::psu {
 
@@ -48,8 +49,14 @@ public:
     /// One telemetry pass. Returns at once when no supply is connected or the last pass is still running.
     Q_INVOKABLE void readInfo();
 
-    /// Asks the open main path for the model text; empty when there is no answer. Bytes are Latin-1.
+    /// Asks for the serial number, then for the model text (the raw device's blocks B and A). True when both
+    /// are known; an answer that takes longer than the caller may be held brings identityTaken() later.
+    bool readIdentity();
+    /// The model text alone, once more; empty when there is no answer. Bytes are Latin-1.
     QString readModelText();
+    /// Runs for each sample of the main path after it was decoded and before anybody is told of it: what is
+    /// derived from it belongs into the record. Set before the first pass.
+    void onSample(std::function<void(TelemetryRecord &)> derive) { derive_ = std::move(derive); }
 
     /// Sends a report and does not wait for its reply, whose content nobody examines (fan and lighting).
     void send(const Request &request);
@@ -62,6 +69,12 @@ public:
     [[nodiscard]] const TelemetryRecord &record() const { return record_; }
     /// The model text of the supply as last read; empty when unknown.
     [[nodiscard]] const QString &modelText() const { return modelText_; }
+    /// Its serial number as last read; empty when unknown.
+    [[nodiscard]] const QString &serialText() const { return serialText_; }
+    /// The supply has said that it has none.
+    [[nodiscard]] bool noSerial() const { return serialText_ == QLatin1String(kNoSerial); }
+    /// The supply has told its model since the program started.
+    [[nodiscard]] bool identityKnown() const { return identityKnown_; }
 
     // The raw path's sample and blocks, one request each. False when the device failed or was too slow.
     bool readRawSample();
@@ -76,6 +89,8 @@ signals:
     /// A pass has ended that refreshed at least one value.
     void readingTaken();
     void stateChanged(zpsg::psu::LinkState state);
+    /// The supply has told its model for the first time.
+    void identityTaken();
     /// The handle was lost or a slow connection attempt has ended: connect again.
     void reconnectDue();
     /// Worth a message box titled "Message".
@@ -89,6 +104,10 @@ private:
     void collectRaw(const RawReadJob &job);
     void fill(const RawSample &sample);
     bool readRawBlock(std::size_t which, std::uint8_t id);
+    bool storeRawBlock(std::size_t which, const RawReadJob &job);
+    bool askIdentity(std::chrono::milliseconds patience);
+    void submitIdentity();
+    void collectIdentity();
     void passEnded(bool refreshed);
     void setState(LinkState state);
     Q_INVOKABLE void lateFinish();
@@ -99,9 +118,14 @@ private:
     std::shared_ptr<ExchangeJob> pass_;
     std::shared_ptr<RawReadJob> rawPass_;
     std::array<std::array<std::uint8_t, 32>, 2> blocks_{};
+    std::vector<std::shared_ptr<LinkJob>> identity_; // serial and model, while they are asked for
+    int identityAttempts_ = 0;
     Path path_ = Path::None;
     LinkState state_ = LinkState::NoDevice;
     QString modelText_;
+    QString serialText_;
+    std::function<void(TelemetryRecord &)> derive_;
+    bool identityKnown_ = false;
     bool hasReading_ = false;
     bool reconnectAsked_ = false;
     HidLink link_; // last: its thread ends before anything that it calls back

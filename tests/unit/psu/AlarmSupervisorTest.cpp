@@ -19,7 +19,7 @@ protected:
     int ticks(int count, AlarmKind kind) {
         int begun = 0;
         for (int i = 0; i < count; ++i) {
-            const auto kinds = supervisor.tick(record);
+            const auto kinds = supervisor.tick(record).begun;
             begun += static_cast<int>(std::count(kinds.begin(), kinds.end(), kind));
         }
         return begun;
@@ -82,11 +82,11 @@ TEST_F(AlarmSupervisorTest, TheOffsetIsPartOfWhatIsSupervised) {
     EXPECT_EQ(ticks(20, AlarmKind::Rail12), 0);
     nextRandom = 50 + 49; // 12.729 V
     EXPECT_EQ(ticks(20, AlarmKind::Rail12), 1);
-    EXPECT_NEAR(supervisor.shownVolts(AlarmKind::Rail12), 12.729, 1e-5);
+    EXPECT_NEAR(supervisor.shown(AlarmKind::Rail12), 12.729, 1e-5);
     set("VVOut5", 5.28F);
     nextRandom = 30 + 5;
     EXPECT_EQ(ticks(20, AlarmKind::Rail5), 0);
-    EXPECT_NEAR(supervisor.shownVolts(AlarmKind::Rail5), 5.285, 1e-5);
+    EXPECT_NEAR(supervisor.shown(AlarmKind::Rail5), 5.285, 1e-5);
 }
 
 TEST_F(AlarmSupervisorTest, AStandingFanThatIsMeantToStandIsNoAlarm) {
@@ -96,6 +96,25 @@ TEST_F(AlarmSupervisorTest, AStandingFanThatIsMeantToStandIsNoAlarm) {
     supervisor.expectStandingFan(false);
     EXPECT_EQ(ticks(9, AlarmKind::Fan), 0); // what stood before does not count
     EXPECT_EQ(ticks(1, AlarmKind::Fan), 1);
+}
+
+TEST_F(AlarmSupervisorTest, AGroupThatIsSwitchedOffRaisesNothingAndEndsWhatHolds) {
+    supervisor.setWarning(AlarmGroup::Voltage, false);
+    set("VVOut5", 4.0F);
+    set("Temp", 80.0F);
+    EXPECT_EQ(ticks(60, AlarmKind::Rail5), 0);
+    EXPECT_TRUE(supervisor.active(AlarmKind::Temperature));
+    supervisor.setWarning(AlarmGroup::Voltage, true);
+    EXPECT_EQ(ticks(1, AlarmKind::Rail5), 1); // the samples were taken in
+    supervisor.setWarning(AlarmGroup::Temperature, false);
+    EXPECT_THAT(supervisor.tick(record).ended, ::testing::ElementsAre(AlarmKind::Temperature));
+}
+
+// What a record lacks reads as 0: out of range, and standstill.
+TEST_F(AlarmSupervisorTest, AMissingKeyCountsAsOutOfRange) {
+    record = {};
+    EXPECT_EQ(ticks(10, AlarmKind::Fan), 1);
+    EXPECT_EQ(supervisor.activeNames(), QStringList(QStringLiteral("fansError")));
 }
 
 } // namespace

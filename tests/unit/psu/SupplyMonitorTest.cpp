@@ -96,7 +96,10 @@ TEST_F(SupplyMonitorTest, ReadsWhatTheMainPathWasTold) {
     EXPECT_FALSE(monitor.hasReading());
     ASSERT_TRUE(monitor.openAtStart());
     EXPECT_TRUE(monitor.mainPathPresent());
-    EXPECT_EQ(monitor.readModelText(), QStringLiteral("CVA-0750-G"));
+    EXPECT_TRUE(monitor.readIdentity());
+    EXPECT_EQ(monitor.modelText(), QStringLiteral("CVA-0750-G"));
+    EXPECT_EQ(monitor.serialText(), QStringLiteral("SN42"));
+    EXPECT_FALSE(monitor.noSerial());
     monitor.readInfo();
     expectTold();
     EXPECT_EQ(taken.count(), 1);
@@ -106,7 +109,7 @@ TEST_F(SupplyMonitorTest, ReadsWhatTheMainPathWasTold) {
         for (const auto &report : model.log()) {
             commands.push_back(static_cast<char>(report[1]));
         }
-        EXPECT_EQ(commands, "1=456789:;3"); // wake-up, model, then the pass in its order
+        EXPECT_EQ(commands, "1>=456789:;3"); // wake-up, serial, model, then the pass in its order
     });
 }
 
@@ -118,8 +121,9 @@ TEST_F(SupplyMonitorTest, ReadsWhatTheRawPathWasToldAndLeavesTheMainOneAlone) {
     monitor.readInfo();
     expectTold(1.0 / 510.0);
     EXPECT_NEAR(value("EFF"), 89.0, 5.0);
-    EXPECT_EQ(monitor.readModelText(), QStringLiteral("CVA-0750-G"));
-    ASSERT_TRUE(monitor.readRawBlockB());
+    EXPECT_TRUE(monitor.readIdentity());
+    EXPECT_EQ(monitor.modelText(), QStringLiteral("CVA-0750-G"));
+    EXPECT_EQ(monitor.serialText(), QStringLiteral("SN42"));
     EXPECT_EQ(std::string(monitor.rawBlock(1).begin(), monitor.rawBlock(1).begin() + 4), "SN42");
     bus->withModel([](SupplyModel &model) { EXPECT_TRUE(model.log().empty()); });
     bus->unplug();
