@@ -135,5 +135,249 @@
         <source></source>
         <translation>Zero Fan</translation>
     </message>
+    <message id="NAV_DASHBOARD">
+        <source></source>
+        <translation>Dashboard</translation>
+    </message>
+    <message id="NAV_ALARMS">
+        <source></source>
+        <translation>Alarms</translation>
+    </message>
+    <message id="NAV_BADGE">
+        <source></source>
+        <translation>%1, %2 active</translation>
+    </message>
+    <message id="ALARM_RAIL">
+        <source></source>
+        <translation>%1 rail out of range</translation>
+    </message>
+    <message id="ALARM_RAIL_ADVICE">
+        <source></source>
+        <translation>It must stay above %1 V and below %2 V; check the supply’s cables and reduce the load.</translation>
+    </message>
+    <message id="ALARM_FAN">
+        <source></source>
+        <translation>Fan has stopped</translation>
+    </message>
+    <message id="ALARM_FAN_ADVICE">
+        <source></source>
+        <translation>It turns at %1 rpm or less; check that nothing blocks it.</translation>
+    </message>
+    <message id="ALARM_TEMPERATURE">
+        <source></source>
+        <translation>Supply is too hot</translation>
+    </message>
+    <message id="ALARM_TEMPERATURE_ADVICE">
+        <source></source>
+        <translation>It has reached its limit of %1 °C; check that air can get to its fan and out again.</translation>
+    </message>
+    <message id="ALARM_SINCE">
+        <source></source>
+        <translation>since %1</translation>
+    </message>
+    <message id="ALARM_LASTED_SECONDS">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="ALARM_LASTED_MINUTES">
+        <source></source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="ALARM_LASTED_HOURS">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="ALARM_LASTED_DAYS">
+        <source></source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message id="ALARM_BANNER_NAME">
+        <source></source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="ALARM_MORE">
+        <source></source>
+        <translation>and %1 more</translation>
+    </message>
+    <message id="ALARM_SHOW_LOG">
+        <source></source>
+        <translation>Show alarms</translation>
+    </message>
+    <message id="ALARM_PAGE_TITLE">
+        <source></source>
+        <translation>Alarms</translation>
+    </message>
+    <message id="ALARM_PAGE_RULE">
+        <source></source>
+        <translation>An alarm begins when a reading is out of range in more than nine of the last sixty seconds.</translation>
+    </message>
+    <message id="ALARM_GROUP_VOLTAGE">
+        <source></source>
+        <translation>Voltage warning</translation>
+    </message>
+    <message id="ALARM_GROUP_VOLTAGE_HINT">
+        <source></source>
+        <translation>When a rail leaves its range of ±6 %.</translation>
+    </message>
+    <message id="ALARM_GROUP_FAN">
+        <source></source>
+        <translation>Fan warning</translation>
+    </message>
+    <message id="ALARM_GROUP_FAN_HINT">
+        <source></source>
+        <translation>When the fan stands still and should not.</translation>
+    </message>
+    <message id="ALARM_GROUP_TEMPERATURE">
+        <source></source>
+        <translation>Temperature warning</translation>
+    </message>
+    <message id="ALARM_GROUP_TEMPERATURE_HINT">
+        <source></source>
+        <translation>When the supply reaches 60 °C.</translation>
+    </message>
+    <message id="ALARM_LOG">
+        <source></source>
+        <translation>Log</translation>
+    </message>
+    <message id="ALARM_LOG_COUNT">
+        <source></source>
+        <translation>Log (%1)</translation>
+    </message>
+    <message id="ALARM_CLEAR_LOG">
+        <source></source>
+        <translation>Clear log</translation>
+    </message>
+    <message id="ALARM_CLEAR_LOG_HINT">
+        <source></source>
+        <translation>Forget the alarms that have ended</translation>
+    </message>
+    <message id="ALARM_LOG_EMPTY">
+        <source></source>
+        <translation>No alarms</translation>
+    </message>
+    <message id="ALARM_LOG_EMPTY_HINT">
+        <source></source>
+        <translation>Everything that leaves its range will be listed here, with its time and how long it lasted.</translation>
+    </message>
+    <message id="ALARM_COLUMN_WHAT">
+        <source></source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="ALARM_COLUMN_VALUE">
+        <source></source>
+        <translation>Value</translation>
+    </message>
+    <message id="ALARM_COLUMN_BEGAN">
+        <source></source>
+        <translation>Began</translation>
+    </message>
+    <message id="ALARM_COLUMN_ENDED">
+        <source></source>
+        <translation>Ended</translation>
+    </message>
+    <message id="ALARM_COLUMN_LASTED">
+        <source></source>
+        <translation>Lasted</translation>
+    </message>
+    <message id="ALARM_HOLDS">
+        <source></source>
+        <translation>holds</translation>
+    </message>
+    <message id="ALARM_END_UNKNOWN">
+        <source></source>
+        <translation>The program ended before the alarm did.</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY">
+        <source></source>
+        <translation>Efficiency</translation>
+    </message>
+    <message id="MAIN_STR_INPUT_POWER">
+        <source></source>
+        <translation>%1 W in</translation>
+    </message>
+    <message id="MAIN_STR_INPUT_POWER_EXPLAINED">
+        <source></source>
+        <translation>What the supply takes from the wall, worked out from its output and the efficiency.</translation>
+    </message>
+    <message id="MAIN_STR_TREND">
+        <source></source>
+        <translation>Output power and efficiency</translation>
+    </message>
+    <message id="MAIN_STR_TREND_MINUTES">
+        <source></source>
+        <translation>5 minutes</translation>
+    </message>
+    <message id="MAIN_STR_TREND_TODAY">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="MAIN_STR_TREND_EFFICIENCY">
+        <source></source>
+        <translation>Efficiency</translation>
+    </message>
+    <message id="MAIN_STR_DAY">
+        <source></source>
+        <translation>Output power today (W)</translation>
+    </message>
+    <message id="MAIN_STR_DAY_SUMMARY">
+        <source></source>
+        <translation>Average %1 W   ·   Peak %2 W   ·   %3</translation>
+    </message>
+    <message id="MAIN_STR_DAY_USAGE">
+        <source></source>
+        <translation>On for %1 h %2 min</translation>
+    </message>
+    <message id="MAIN_STR_DAY_EXPLAINED">
+        <source></source>
+        <translation>Each bar is the average of four minutes, and the peak is the highest bar. All bars are of today: the hours before 06:00 stand at the right end, after midnight.</translation>
+    </message>
+    <message id="MAIN_STR_DAY_EMPTY">
+        <source></source>
+        <translation>Nothing recorded today yet. A bar is added every four minutes while the supply is connected.</translation>
+    </message>
+    <message id="MAIN_STR_DAY_BAR">
+        <source></source>
+        <translation>%1   %2 W</translation>
+    </message>
+    <message id="MAIN_STR_DAY_NO_BAR">
+        <source></source>
+        <translation>%1   nothing recorded</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY_AT">
+        <source></source>
+        <translation>Efficiency at %1 V by output power</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY_BEST">
+        <source></source>
+        <translation>Best %1 % at %2 W</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY_NOTE">
+        <source></source>
+        <translation>From the model's curve; the supply itself does not measure its input.</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY_EXPLAINED">
+        <source></source>
+        <translation>The curve holds the limits of the 80 PLUS certification that this model has. Input and heat loss are worked out from it; the supply itself does not measure its input.</translation>
+    </message>
+    <message id="MAIN_STR_EFFICIENCY_SPOKEN">
+        <source></source>
+        <translation>%1 at %2 of output, %3 from the wall, %4 of heat</translation>
+    </message>
+    <message id="MAIN_STR_NO_CURVE">
+        <source></source>
+        <translation>There is no efficiency curve for this supply's model.</translation>
+    </message>
+    <message id="MAIN_STR_RATED">
+        <source></source>
+        <translation>rated %1 W</translation>
+    </message>
+    <message id="MAIN_STR_FROM_THE_WALL">
+        <source></source>
+        <translation>From the wall</translation>
+    </message>
+    <message id="MAIN_STR_HEAT_LOSS">
+        <source></source>
+        <translation>Heat loss</translation>
+    </message>
 </context>
 </TS>

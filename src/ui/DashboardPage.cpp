@@ -4,13 +4,16 @@
 #include "psu/TelemetryRecord.h"
 #include "ui/ArcGauge.h"
 #include "ui/ConnectionBanner.h"
+#include "ui/DayView.h"
+#include "ui/EfficiencyView.h"
 #include "ui/Figures.h"
+#include "ui/MainsPower.h"
 #include "ui/PowerTrace.h"
 #include "ui/RailCard.h"
 #include "ui/Style.h"
+#include "ui/TrendPanel.h"
 
 #include <QEvent>
-#include <QGridLayout>
 #include <QVBoxLayout>
 
 namespace zpsg::ui {
@@ -38,9 +41,12 @@ constexpr double kUsualWatts = 1000.0;
 constexpr double kHotCelsius = 60.0;
 /// At or below this the fan stands still, revolutions a minute.
 constexpr double kFanStandsRpm = 10.0;
+/// The speed that counts as 100 percent, revolutions a minute.
+constexpr double kFanFullRpm = 2250.0;
 
 /// Wide-range mains inputs take 90 to 264 volts.
 constexpr ArcGauge::Scale kInputScale{80.0, 270.0, 4, 1};
+constexpr ArcGauge::Scale kEfficiencyScale{0.0, 100.0, 4, 1};
 constexpr ArcGauge::Scale kTemperatureScale{0.0, 80.0, 4, 0};
 constexpr ArcGauge::Scale kFanScale{0.0, 2500.0, 5, 0};
 
@@ -61,56 +67,63 @@ DashboardPage::DashboardPage(QWidget *parent)
     : QWidget(parent)
     , banner_(new ConnectionBanner(this))
     , content_(new QWidget(this))
-    , figures_(new QGridLayout)
     , output_(new ArcGauge(ArcGauge::Prominence::Hero, content_))
-    , input_(new ArcGauge(ArcGauge::Prominence::Normal, content_))
+    , efficiency_(new ArcGauge(ArcGauge::Prominence::Normal, content_))
     , temperature_(new ArcGauge(ArcGauge::Prominence::Normal, content_))
     , fan_(new ArcGauge(ArcGauge::Prominence::Normal, content_))
-    , trace_(new PowerTrace(content_)) {
+    , input_(new ArcGauge(ArcGauge::Prominence::Normal, content_))
+    , trends_(new TrendPanel(content_)) {
     for (std::size_t i = 0; i < kRails.size(); ++i) {
         rails_.at(i) = new RailCard(QString::fromLatin1(kRails.at(i).name), kRails.at(i).nominal, content_);
     }
     output_->setObjectName(QStringLiteral("gaugeOutput"));
-    input_->setObjectName(QStringLiteral("gaugeInput"));
+    efficiency_->setObjectName(QStringLiteral("gaugeEfficiency"));
     temperature_->setObjectName(QStringLiteral("gaugeTemperature"));
     fan_->setObjectName(QStringLiteral("gaugeFan"));
+    input_->setObjectName(QStringLiteral("gaugeInput"));
     output_->setUnit(QStringLiteral("W"));
-    input_->setUnit(QStringLiteral("V AC"));
+    efficiency_->setUnit(QStringLiteral("%"));
     temperature_->setUnit(QStringLiteral("\u00B0C"));
     fan_->setUnit(QStringLiteral("rpm"));
-    input_->setScale(kInputScale);
+    input_->setUnit(QStringLiteral("V AC"));
+    efficiency_->setScale(kEfficiencyScale);
     temperature_->setScale(kTemperatureScale);
     fan_->setScale(kFanScale);
+    input_->setScale(kInputScale);
     scaleOutput();
     layOut();
     retranslate();
 }
 
 void DashboardPage::layOut() {
-    figures_->addWidget(output_, 0, 0, 2, 1);
-    int column = 1;
-    for (ArcGauge *gauge : {input_, temperature_, fan_}) {
-        figures_->addWidget(gauge, 0, column++);
+    auto *gauges = new QHBoxLayout;
+    for (ArcGauge *gauge : {efficiency_, temperature_, fan_, input_}) {
+        gauges->addWidget(gauge, 1);
     }
-    column = 1;
+    auto *rails = new QHBoxLayout;
     for (RailCard *rail : rails_) {
-        figures_->addWidget(rail, 1, column++);
+        rails->addWidget(rail, 1);
     }
-    figures_->setColumnStretch(0, 36);
-    for (column = 1; column <= 3; ++column) {
-        figures_->setColumnStretch(column, 21);
-    }
-    figures_->setRowStretch(0, 52);
-    figures_->setRowStretch(1, 48);
-
+    auto *right = new QVBoxLayout;
+    right->addLayout(gauges, 52);
+    right->addLayout(rails, 48);
+    auto *figures = new QHBoxLayout;
+    figures->addWidget(output_, 33);
+    figures->addLayout(right, 67);
     auto *contentLayout = new QVBoxLayout(content_);
     contentLayout->setContentsMargins(0, 0, 0, 0);
-    contentLayout->addLayout(figures_, 60);
-    contentLayout->addWidget(trace_, 40);
+    contentLayout->addLayout(figures, 60);
+    contentLayout->addWidget(trends_, 40);
+    spaced_ = {gauges, rails, right, figures};
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(banner_);
     layout->addWidget(content_, 1);
+}
+
+void DashboardPage::setAlarmBanner(QWidget *banner) {
+    auto *rows = static_cast<QVBoxLayout *>(layout());
+    rows->insertWidget(rows->indexOf(content_), banner);
 }
 
 void DashboardPage::resizeEvent(QResizeEvent *event) {
@@ -118,7 +131,9 @@ void DashboardPage::resizeEvent(QResizeEvent *event) {
     const qreal scale = style::windowScale(*this);
     const int gap = qRound(style::space::kM * scale);
     const int margin = qRound(style::space::kL * scale);
-    figures_->setSpacing(gap);
+    for (QBoxLayout *spaced : spaced_) {
+        spaced->setSpacing(gap);
+    }
     content_->layout()->setSpacing(gap);
     layout()->setSpacing(gap);
     layout()->setContentsMargins(margin, 0, margin, margin);
@@ -126,10 +141,12 @@ void DashboardPage::resizeEvent(QResizeEvent *event) {
 
 void DashboardPage::retranslate() {
     output_->setCaption(qtTrId("MAIN_STR_OUTPUT_POWER"));
-    input_->setCaption(qtTrId("MAIN_STR_INPUT_VOLTAGE"));
+    efficiency_->setCaption(qtTrId("MAIN_STR_EFFICIENCY"));
+    efficiency_->setToolTip(qtTrId("MAIN_STR_INPUT_POWER_EXPLAINED"));
     temperature_->setCaption(qtTrId("MAIN_STR_TEMPERATURE"));
     temperature_->setCaution(kHotCelsius, qtTrId("MAIN_STR_HOT"));
     fan_->setCaption(qtTrId("MAIN_STR_FAN"));
+    input_->setCaption(qtTrId("MAIN_STR_INPUT_VOLTAGE"));
 }
 
 void DashboardPage::scaleOutput() {
@@ -155,9 +172,9 @@ void DashboardPage::noteLoad(double watts) {
                                        : QString());
 }
 
-void DashboardPage::showReading(const psu::TelemetryRecord &record, qint64 msSinceEpoch) {
+void DashboardPage::showReading(const psu::TelemetryRecord &record, const Shown &shown, qint64 msSinceEpoch) {
     if (state_ != LinkState::Live) {
-        trace_->append(msSinceEpoch, std::nullopt);
+        trends_->power()->append(msSinceEpoch, std::nullopt);
         return;
     }
     const auto watts = measured(record, QStringLiteral("WATTS"));
@@ -165,19 +182,49 @@ void DashboardPage::showReading(const psu::TelemetryRecord &record, qint64 msSin
         output_->showValue(*watts);
         noteLoad(*watts);
     }
-    showEntry(*input_, record, QStringLiteral("VIN"));
+    showEfficiency(watts, shown.efficiency);
     showEntry(*temperature_, record, QStringLiteral("Temp"));
-    showEntry(*fan_, record, QStringLiteral("FanSpeed"));
-    const bool stands = fan_->readoutValue() && *fan_->readoutValue() <= kFanStandsRpm;
-    fan_->setNote(stands ? qtTrId("MAIN_STR_FAN_STANDS") : QString());
+    showFan(record);
+    showEntry(*input_, record, QStringLiteral("VIN"));
     for (std::size_t i = 0; i < rails_.size(); ++i) {
-        const auto volts = measured(record, kRails.at(i).volts);
         const auto amps = measured(record, kRails.at(i).amps);
-        if (volts && amps) {
-            rails_.at(i)->showReading(*volts, *amps);
+        if (amps && record.measured(kRails.at(i).volts)) {
+            rails_.at(i)->showReading(shown.railVolts.at(i), *amps);
         }
     }
-    trace_->append(msSinceEpoch, watts);
+    trends_->power()->append(msSinceEpoch, watts);
+}
+
+void DashboardPage::showFan(const psu::TelemetryRecord &record) {
+    showEntry(*fan_, record, QStringLiteral("FanSpeed"));
+    const auto speed = fan_->readoutValue();
+    if (!speed) {
+        fan_->setNote({});
+    } else if (*speed <= kFanStandsRpm) {
+        fan_->setNote(qtTrId("MAIN_STR_FAN_STANDS"));
+    } else {
+        fan_->setNote(formatFigure(100.0 * *speed / kFanFullRpm, 0) + QStringLiteral("\u00A0%"));
+    }
+}
+
+void DashboardPage::showEfficiency(std::optional<double> watts, std::optional<double> percent) {
+    if (percent) {
+        efficiency_->showValue(*percent);
+    } else {
+        efficiency_->clear();
+    }
+    const auto mains = mainsPower(watts, percent);
+    efficiency_->setNote(mains ? qtTrId("MAIN_STR_INPUT_POWER").arg(formatFigure(mains->inputWatts, 0))
+                               : QString());
+    trends_->efficiency()->showPoint(watts, percent);
+}
+
+void DashboardPage::setCurve(const std::vector<float> &percentPerTenWatts, double ratedWatts, bool band230) {
+    trends_->efficiency()->setCurve(percentPerTenWatts, ratedWatts, band230);
+}
+
+void DashboardPage::showDay(const std::vector<float> &bucketWatts, int usageMinutes, int bucketNow) {
+    trends_->day()->showDay(bucketWatts, usageMinutes, bucketNow);
 }
 
 void DashboardPage::showLinkState(LinkState state, const QString &modelText) {
@@ -192,22 +239,24 @@ void DashboardPage::showLinkState(LinkState state, const QString &modelText) {
 }
 
 void DashboardPage::setStale(bool stale) {
-    for (ArcGauge *gauge : {output_, input_, temperature_, fan_}) {
+    for (ArcGauge *gauge : {output_, efficiency_, temperature_, fan_, input_}) {
         gauge->setStale(stale);
     }
     for (RailCard *rail : rails_) {
         rail->setStale(stale);
     }
+    trends_->efficiency()->setStale(stale);
 }
 
 void DashboardPage::clearValues() {
-    for (ArcGauge *gauge : {output_, input_, temperature_, fan_}) {
+    for (ArcGauge *gauge : {output_, efficiency_, temperature_, fan_, input_}) {
         gauge->clear();
         gauge->setNote({});
     }
     for (RailCard *rail : rails_) {
         rail->clear();
     }
+    trends_->efficiency()->showPoint(std::nullopt, std::nullopt);
 }
 
 void DashboardPage::setDemo(bool demo) { banner_->setDemo(demo); }

@@ -4,8 +4,10 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
+#include <vector>
 
-class QGridLayout;
+class QBoxLayout;
 
 namespace zpsg::psu {
 class TelemetryRecord;
@@ -16,8 +18,8 @@ namespace zpsg::ui {
 
 class ArcGauge;
 class ConnectionBanner;
-class PowerTrace;
 class RailCard;
+class TrendPanel;
 
 /// Shows figures only of readings: a record taken in while the supply is not live is looked at for nothing,
 /// since it holds the start values of a fresh record or what was read earlier.
@@ -25,10 +27,18 @@ class DashboardPage : public QWidget {
     Q_OBJECT
 
 public:
+    /// What is shown beside the record's own values.
+    struct Shown {
+        /// As supervised, volts, in the order 12 V, 5 V, 3.3 V.
+        std::array<double, 3> railVolts{};
+        /// Percent; nothing when it is not known.
+        std::optional<double> efficiency;
+    };
+
     explicit DashboardPage(QWidget *parent = nullptr);
 
     /// To be called once a second, whatever the state: while the supply is not live the trace gets a gap.
-    void showReading(const psu::TelemetryRecord &record, qint64 msSinceEpoch);
+    void showReading(const psu::TelemetryRecord &record, const Shown &shown, qint64 msSinceEpoch);
     /// Without a supply, or without access to it, no value is shown; a silent one's last values stay, in
     /// grey.
     void showLinkState(psu::LinkState state, const QString &modelText);
@@ -38,7 +48,14 @@ public:
     void setRemedy(const QString &command);
     /// Rated output of the identified model; 0 or less when it is not known.
     void setRatedWatts(double watts);
-    /// Disables everything but the banner.
+    /// See EfficiencyView::setCurve().
+    void setCurve(const std::vector<float> &percentPerTenWatts, double ratedWatts, bool band230);
+    /// See DayView::showDay().
+    void showDay(const std::vector<float> &bucketWatts, int usageMinutes, int bucketNow);
+    [[nodiscard]] TrendPanel *trends() const { return trends_; }
+    /// Puts a banner between the connection's and the figures; the page owns it then. To be called once.
+    void setAlarmBanner(QWidget *banner);
+    /// Disables everything but the banners.
     void setContentEnabled(bool enabled);
 
 protected:
@@ -52,18 +69,21 @@ private:
     void setStale(bool stale);
     void clearValues();
     void noteLoad(double watts);
+    void showFan(const psu::TelemetryRecord &record);
+    void showEfficiency(std::optional<double> watts, std::optional<double> percent);
 
     psu::LinkState state_{}; ///< no device until told otherwise
     double ratedWatts_ = 0.0;
     ConnectionBanner *banner_;
     QWidget *content_;
-    QGridLayout *figures_; ///< of the gauges and rails
+    std::array<QBoxLayout *, 4> spaced_{}; ///< those with a gap between cards
     ArcGauge *output_;
-    ArcGauge *input_;
+    ArcGauge *efficiency_;
     ArcGauge *temperature_;
     ArcGauge *fan_;
+    ArcGauge *input_;
     std::array<RailCard *, 3> rails_{};
-    PowerTrace *trace_;
+    TrendPanel *trends_;
 };
 
 } // namespace zpsg::ui

@@ -50,6 +50,25 @@ void paintWarning(QPainter &painter) {
     painter.drawPoint(QPointF(12, 17.5));
 }
 
+void paintGauge(QPainter &painter) {
+    // Three quarters of a circle, open below, like the gauges themselves.
+    painter.drawArc(QRectF(2.5, 3.5, 19, 19), -45 * 16, 270 * 16);
+    painter.drawLine(QPointF(12, 13), QPointF(16, 8.5));
+    painter.drawEllipse(QPointF(12, 13), 0.9, 0.9);
+}
+
+void paintBell(QPainter &painter) {
+    QPainterPath bell(QPointF(4, 17.5));
+    bell.cubicTo(5.8, 15.6, 6, 14, 6, 10.5);
+    bell.cubicTo(6, 6.6, 8.6, 4, 12, 4);
+    bell.cubicTo(15.4, 4, 18, 6.6, 18, 10.5);
+    bell.cubicTo(18, 14, 18.2, 15.6, 20, 17.5);
+    bell.closeSubpath();
+    painter.drawPath(bell);
+    painter.drawLine(QPointF(12, 2.2), QPointF(12, 4));
+    painter.drawArc(QRectF(9.5, 16.5, 5, 5), 205 * 16, 130 * 16);
+}
+
 } // namespace
 
 void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &colour) {
@@ -84,6 +103,15 @@ void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &c
     case Icon::Close:
         painter.drawLine(QPointF(5, 5), QPointF(19, 19));
         painter.drawLine(QPointF(19, 5), QPointF(5, 19));
+        break;
+    case Icon::Gauge:
+        paintGauge(painter);
+        break;
+    case Icon::Bell:
+        paintBell(painter);
+        break;
+    case Icon::Tick:
+        painter.drawPolyline(QPolygonF({QPointF(3.5, 12.5), QPointF(9.5, 18.5), QPointF(20.5, 6)}));
         break;
     }
     painter.restore();

@@ -15,6 +15,9 @@ enum class Icon {
     Warning, ///< a triangle with an exclamation mark
     Minimise,
     Close,
+    Gauge, ///< a dial with its needle
+    Bell,
+    Tick,
 };
 
 /// Draws the sign centred in `rect`, as large as its shorter side.

@@ -1,31 +1,50 @@
 #include "ui/MainView.h"
 
+#include "ui/AlarmBanner.h"
+#include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
+#include "ui/NavigationRail.h"
 #include "ui/Style.h"
 #include "ui/TitleBar.h"
 #include "ui/WindowFrame.h"
 
+#include <QApplication>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace zpsg::ui {
+namespace {
 
+/// With a button for each of MainView::Page, in that order.
+NavigationRail *makeNavigation(QWidget *parent) {
+    auto *rail = new NavigationRail(parent);
+    rail->addPage(Icon::Gauge, QT_TRID_NOOP("NAV_DASHBOARD"));
+    rail->addPage(Icon::Bell, QT_TRID_NOOP("NAV_ALARMS"));
+    return rail;
+}
+
+} // namespace
+
+// Tab goes through the controls in the order in which they are made.
 MainView::MainView(QWidget *parent)
     : QWidget(parent)
     , titleBar_(new TitleBar(this))
+    , navigation_(makeNavigation(this))
     , pages_(new QStackedWidget(this))
-    , dashboard_(new DashboardPage(pages_)) {
+    , alarmBanner_(new AlarmBanner(pages_))
+    , dashboard_(new DashboardPage(pages_))
+    , alarms_(new AlarmsPage(pages_)) {
     setObjectName(QStringLiteral("centralMain"));
     setAttribute(Qt::WA_StyledBackground);
     setFont(style::font(style::type::kBody));
     setMinimumSize(kMinimumSize);
-    pages_->addWidget(dashboard_);
+    layOut();
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1); // the edge
-    layout->setSpacing(0);
-    layout->addWidget(titleBar_);
-    layout->addWidget(pages_, 1);
+    connect(navigation_, &NavigationRail::pageChosen, this,
+            [this](int page) { showPage(static_cast<Page>(page)); });
+    connect(alarmBanner_, &AlarmBanner::logRequested, this, [this] { showPage(Page::Alarms); });
+    connect(alarmBanner_, &AlarmBanner::countChanged, this,
+            [this](int count) { navigation_->setBadge(static_cast<int>(Page::Alarms), count); });
 
     // The window opens with no control marked; the first Tab marks one.
     setFocusPolicy(Qt::ClickFocus);
@@ -35,6 +54,44 @@ MainView::MainView(QWidget *parent)
     setStyleSheet(style::sheet());
 }
 
+void MainView::layOut() {
+    pages_->addWidget(dashboard_);
+    pages_->addWidget(alarms_);
+    dashboard_->setAlarmBanner(alarmBanner_);
+
+    auto *body = new QHBoxLayout;
+    body->setSpacing(0);
+    body->addWidget(navigation_);
+    body->addWidget(pages_, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1); // the edge
+    layout->setSpacing(0);
+    layout->addWidget(titleBar_);
+    layout->addLayout(body, 1);
+}
+
+void MainView::showPage(Page page) {
+    if (page == this->page()) {
+        return;
+    }
+    // What has the focus on a page that goes would hand it to some control of the page that comes.
+    const QWidget *focus = QApplication::focusWidget();
+    if (focus != nullptr && pages_->isAncestorOf(focus)) {
+        setFocus();
+    }
+    navigation_->setCurrent(static_cast<int>(page));
+    pages_->setCurrentIndex(static_cast<int>(page));
+    emit pageShown(page);
+}
+
+MainView::Page MainView::page() const { return static_cast<Page>(pages_->currentIndex()); }
+
 void MainView::setMainEnabled(bool enabled) { dashboard_->setContentEnabled(enabled); }
+
+void MainView::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    navigation_->fitToWindow();
+    alarmBanner_->fitToWindow();
+}
 
 } // namespace zpsg::ui

@@ -1,4 +1,4 @@
-// The main window's central widget: title bar, pages, and the window's own edge.
+// The main window's central widget: title bar, navigation, pages, and the window's own edge.
 #pragma once
 
 #include <QWidget>
@@ -7,13 +7,20 @@ class QStackedWidget;
 
 namespace zpsg::ui {
 
+class AlarmBanner;
+class AlarmsPage;
 class DashboardPage;
+class NavigationRail;
 class TitleBar;
 
 class MainView : public QWidget {
     Q_OBJECT
 
 public:
+    /// In the order of the rail.
+    enum class Page { Dashboard, Alarms };
+    Q_ENUM(Page)
+
     /// The least size at which every text has room.
     static constexpr QSize kMinimumSize{960, 620};
     static constexpr QSize kDefaultSize{1100, 720};
@@ -21,17 +28,37 @@ public:
     explicit MainView(QWidget *parent = nullptr);
 
     [[nodiscard]] TitleBar *titleBar() const { return titleBar_; }
+    [[nodiscard]] NavigationRail *navigation() const { return navigation_; }
     [[nodiscard]] DashboardPage *dashboard() const { return dashboard_; }
+    [[nodiscard]] AlarmsPage *alarms() const { return alarms_; }
+    /// Stands on the dashboard; the navigation counts what it shows.
+    [[nodiscard]] AlarmBanner *alarmBanner() const { return alarmBanner_; }
 
-    /// Disables the pages while no supply is there. What says so, and what helps, stays usable.
+    void showPage(Page page);
+    [[nodiscard]] Page page() const;
+
+    /// Disables the dashboard while no supply is there. What says so, and what helps, stays usable; so do the
+    /// other pages.
     void setMainEnabled(bool enabled);
 
     [[nodiscard]] QSize sizeHint() const override { return kDefaultSize; }
 
+signals:
+    /// Another page is shown than before.
+    void pageShown(zpsg::ui::MainView::Page page);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void layOut();
+
     TitleBar *titleBar_;
+    NavigationRail *navigation_;
     QStackedWidget *pages_;
+    AlarmBanner *alarmBanner_;
     DashboardPage *dashboard_;
+    AlarmsPage *alarms_;
 };
 
 } // namespace zpsg::ui

@@ -1,18 +1,15 @@
 // The output power of the last five minutes on a card.
 #pragma once
 
-#include "ui/Readout.h"
 #include "ui/TraceBuffer.h"
-
-class QLabel;
-class QwtPlot;
+#include "ui/TrendView.h"
 
 namespace zpsg::ui {
 
 class TraceCurve;
 
-/// To be fed once a second, with nothing when there was no reading. Plots only while it is visible.
-class PowerTrace : public Readout {
+/// To be fed once a second, with nothing when there was no reading.
+class PowerTrace final : public TrendView {
     Q_OBJECT
 
 public:
@@ -25,32 +22,23 @@ public:
     /// Upper end of the watts axis.
     [[nodiscard]] double top() const { return top_; }
 
+    [[nodiscard]] QString captionText() const override;
     /// Peak and average of what is shown; empty without a reading.
-    [[nodiscard]] QString summaryText() const;
-    [[nodiscard]] QString readoutText() const override { return summaryText(); }
+    [[nodiscard]] QString summaryText() const override;
     [[nodiscard]] std::optional<double> readoutValue() const override;
     [[nodiscard]] std::pair<double, double> readoutRange() const override { return {0.0, top_}; }
 
-    [[nodiscard]] QSize sizeHint() const override { return {600, 210}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {320, 124}; }
-
 protected:
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
+    void replot() override;
+    void layOut(qreal scale) override;
 
 private:
-    void setUpPlot();
-    void retranslate();
-    void replot();
     void scaleAxes();
 
     TraceBuffer buffer_;
-    QwtPlot *plot_;
     TraceCurve *curve_; ///< owned by the plot
-    QLabel *empty_;     ///< in the plot's place while there is nothing to plot
-    double top_ = 0.0;
+    double top_;
 };
 
 } // namespace zpsg::ui

@@ -62,10 +62,22 @@ QString sheet() {
                "QPushButton:hover { background: rgba(255,255,255,32); }"
                "QPushButton:pressed { background: rgba(255,255,255,10); }"
                "QPushButton:focus { border-color: %7; }"
+               "QPushButton:disabled { color: %8; background: transparent;"
+               " border-color: rgba(255,255,255,22); }"
+               "QTableView { background: transparent; border: none; outline: none;"
+               " selection-background-color: transparent; }"
+               "QHeaderView { background: transparent; border: none; }"
+               "QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }"
+               "QScrollBar::handle:vertical { background: rgba(255,255,255,56); border-radius: 4px;"
+               " margin: 0 2px; min-height: 36px; }"
+               "QScrollBar::handle:vertical:hover { background: rgba(255,255,255,96); }"
+               "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+               "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }"
                "QToolTip { color: %1; background: rgb(44,48,53); border: 1px solid rgb(80,86,92); padding: "
                "4px 6px; }")
         .arg(css(colour::kText), css(colour::kTextSecondary), css(colour::kTextTertiary),
-             css(colour::kCardEdge), css(colour::kAccentDeep), css(colour::kCaution), css(colour::kAccent));
+             css(colour::kCardEdge), css(colour::kAccentDeep), css(colour::kCaution), css(colour::kAccent),
+             css(colour::kStale));
 }
 
 void paintCard(QPainter &painter, const QWidget &card) {

@@ -1,14 +1,20 @@
 #include "ui/MainView.h"
 
 #include "psu/SupplyMonitor.h"
+#include "ui/AlarmBanner.h"
+#include "ui/AlarmsPage.h"
 #include "ui/ArcGauge.h"
 #include "ui/DashboardPage.h"
+#include "ui/NavigationRail.h"
 #include "ui/TitleBar.h"
 #include "ui/WindowFrame.h"
 #include "UiFixture.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 
 #include <array>
@@ -30,8 +36,19 @@ protected:
     }
     void bring(LinkState state) {
         view_.dashboard()->showLinkState(state, QStringLiteral("MODEL-1000-WITH-A-LONG-NAME"));
-        view_.dashboard()->showReading(reading(), now_ += 1000);
+        view_.dashboard()->showReading(reading(), {{12.05, 5.02, 3.31}, 90.0}, now_ += 1000);
         settle();
+    }
+
+    /// That many alarms hold, for days, so that their texts are long.
+    static void alarm(MainView &view, std::size_t count) {
+        std::vector<psu::AlarmEntry> holding;
+        for (std::size_t i = 0; i < count; ++i) {
+            holding.push_back({static_cast<psu::AlarmKind>(i), 11.21,
+                               QDateTime::currentDateTime().addDays(-5), QDateTime(), true});
+        }
+        view.alarmBanner()->showAlarms(holding);
+        view.alarms()->showLog(holding);
     }
 
     MainView view_;
@@ -60,22 +77,37 @@ QString misfit(const QWidget &widget, const QWidget &view) {
 TEST_F(MainViewTest, NothingIsCutAtAnySize) {
     view_.dashboard()->setDemo(true);
     view_.show();
-    for (const QSize size : {QSize(960, 620), QSize(1100, 720), QSize(3840, 2160), QSize(960, 620)}) {
-        for (const LinkState state :
-             {LinkState::Live, LinkState::Silent, LinkState::NoPermission, LinkState::NoDevice}) {
-            view_.resize(size);
-            bring(state);
-            ASSERT_EQ(view_.size(), size);
-            for (const QWidget *child : view_.findChildren<QWidget *>()) {
-                if (child->isVisible() && (qobject_cast<const QLabel *>(child) != nullptr ||
-                                           qobject_cast<const QPushButton *>(child) != nullptr ||
-                                           qobject_cast<const Readout *>(child) != nullptr)) {
-                    EXPECT_EQ(misfit(*child, view_), QString())
-                        << child->metaObject()->className() << " " << qPrintable(child->objectName())
-                        << " state " << static_cast<int>(state) << " width " << size.width();
-                }
+    const auto expectFit = [this](const std::string &when) {
+        for (const QWidget *child : view_.findChildren<QWidget *>()) {
+            if (child->isVisible() && (qobject_cast<const QLabel *>(child) != nullptr ||
+                                       qobject_cast<const QAbstractButton *>(child) != nullptr ||
+                                       qobject_cast<const Readout *>(child) != nullptr)) {
+                EXPECT_EQ(misfit(*child, view_), QString())
+                    << child->metaObject()->className() << " " << qPrintable(child->objectName()) << when;
             }
         }
+    };
+    struct Case {
+        LinkState state;
+        std::size_t alarms;
+    };
+    const std::array cases{Case{LinkState::Live, 0},         Case{LinkState::Live, 1},
+                           Case{LinkState::Live, 3},         Case{LinkState::Live, 5},
+                           Case{LinkState::Silent, 0},       Case{LinkState::Silent, 2},
+                           Case{LinkState::NoPermission, 0}, Case{LinkState::NoDevice, 0}};
+    for (const QSize size : {QSize(960, 620), QSize(1100, 720), QSize(3840, 2160), QSize(960, 620)}) {
+        view_.resize(size);
+        for (const Case &c : cases) {
+            alarm(view_, c.alarms);
+            bring(c.state);
+            ASSERT_EQ(view_.size(), size);
+            expectFit(" state " + std::to_string(static_cast<int>(c.state)) + " alarms " +
+                      std::to_string(c.alarms) + " width " + std::to_string(size.width()));
+        }
+        view_.showPage(MainView::Page::Alarms);
+        settle();
+        expectFit(" on the alarms page, width " + std::to_string(size.width()));
+        view_.showPage(MainView::Page::Dashboard);
     }
 }
 
@@ -103,6 +135,45 @@ TEST_F(MainViewTest, WhatHelpsStaysUsableWhileThePagesAreDisabled) {
     EXPECT_TRUE(view_.titleBar()->isEnabled());
     view_.setMainEnabled(true);
     EXPECT_TRUE(view_.findChild<ArcGauge *>()->isEnabled());
+}
+
+TEST_F(MainViewTest, AllWaysLeadToThePages) {
+    QMainWindow window;
+    auto *view = new MainView(&window);
+    window.setCentralWidget(view);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), view) << "no control is marked at first";
+    view->setMainEnabled(false);
+    std::vector<MainView::Page> shown;
+    QObject::connect(view, &MainView::pageShown, view,
+                     [&shown](MainView::Page page) { shown.push_back(page); });
+    const QWidget *table = view->findChild<QTableView *>();
+    auto *logButton = view->findChild<QPushButton *>(QStringLiteral("btnShowAlarms"));
+
+    alarm(*view, 2);
+    settle();
+    logButton->setFocus();
+    logButton->click();
+    EXPECT_EQ(view->page(), MainView::Page::Alarms);
+    EXPECT_EQ(view->navigation()->current(), 1);
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(table->isEnabled()) << "the log can be read without a supply";
+    EXPECT_EQ(QApplication::focusWidget(), view) << "the page comes with no control marked";
+    QTest::keyClick(view, Qt::Key_1, Qt::ControlModifier);
+    EXPECT_TRUE(view->dashboard()->isVisible());
+    view->showPage(MainView::Page::Dashboard);
+    EXPECT_EQ(shown, (std::vector{MainView::Page::Alarms, MainView::Page::Dashboard}));
+}
+
+TEST_F(MainViewTest, TheNavigationCountsTheAlarmsThatHold) {
+    const auto *button = view_.navigation()->findChildren<QAbstractButton *>().at(1);
+    const QString quiet = button->accessibleName();
+    alarm(view_, 3);
+    EXPECT_TRUE(button->accessibleName().contains(QLatin1Char('3')));
+    alarm(view_, 0);
+    EXPECT_EQ(button->accessibleName(), quiet);
 }
 
 TEST_F(MainViewTest, HasTheGradientAndTheEdge) {
@@ -152,13 +223,19 @@ TEST_F(MainViewTest, TextsFollowTheLanguage) {
     } marking;
     QCoreApplication::installTranslator(&marking);
     settle();
-    for (const QLabel *label : view_.dashboard()->findChildren<QLabel *>()) {
-        if (label->isVisibleTo(&view_) && !label->text().isEmpty()) {
-            EXPECT_TRUE(label->text().startsWith(QLatin1Char('~'))) << qPrintable(label->text());
+    for (const QWidget *page :
+         {static_cast<QWidget *>(view_.dashboard()), static_cast<QWidget *>(view_.alarms())}) {
+        for (const QLabel *label : page->findChildren<QLabel *>()) {
+            if (label->isVisibleTo(page) && !label->text().isEmpty()) {
+                EXPECT_TRUE(label->text().startsWith(QLatin1Char('~'))) << qPrintable(label->text());
+            }
         }
     }
     for (const ArcGauge *gauge : view_.findChildren<ArcGauge *>()) {
         EXPECT_TRUE(gauge->accessibleName().startsWith(QLatin1Char('~')));
+    }
+    for (const QAbstractButton *button : view_.navigation()->findChildren<QAbstractButton *>()) {
+        EXPECT_TRUE(button->text().startsWith(QLatin1Char('~')));
     }
     QCoreApplication::removeTranslator(&marking);
 }
