@@ -3,7 +3,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqwt-qt5-dev
-    libhidapi-dev libudev-dev
+    libhidapi-dev libudev-dev libsodium-dev
     librsvg2-bin fonts-inter fonts-dejavu-core
 )
 test_packages=(

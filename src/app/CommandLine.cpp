@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include "power/ModelTable.h"
 #include "simulator/DemoSupply.h"
 
 namespace zpsg::app {
@@ -46,6 +47,8 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
             line.headless = true;
         } else if (argument == QLatin1String("--json")) {
             line.json = true;
+        } else if (argument == QLatin1String("--list-models")) {
+            line.listModels = true;
         } else if (argument == QLatin1String("--version")) {
             line.showVersion = true;
         } else if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
@@ -64,6 +67,21 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     return line;
 }
 
+QString modelList() {
+    QString text;
+    int position = 0;
+    for (const auto &row : power::kCurveModels) {
+        const auto quoted = [](std::string_view part) {
+            return QString::fromLatin1(part.data(), static_cast<int>(part.size()));
+        };
+        const QStringList fields{QString::number(position++), quoted(row.code),
+                                 QString::number(row.ratedWatts), quoted(row.curve),
+                                 QString::number(row.seriesCode.value_or(0))};
+        text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
 QString helpText() {
     return QStringLiteral(R"(Usage: zpsg [open] [options]
 
@@ -74,6 +92,8 @@ Monitors and controls a ZPS G power supply.
   --data-dir DIR    keep settings and records in DIR
   --headless        no window: print a line for each reading, until interrupted
   --json            with --headless: print one JSON object for each reading
+  --list-models     print the models with an efficiency curve, tab-separated:
+                    position, code, rated watts, curve file, series code
   --version         print the version
   --help            print this text
 

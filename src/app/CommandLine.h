@@ -20,6 +20,7 @@ struct CommandLine {
     std::optional<QString> dataDir;
     bool headless = false;
     bool json = false;
+    bool listModels = false;
     bool showVersion = false;
     bool showHelp = false;
     QStringList ignored; ///< words that mean nothing here; the program starts all the same
@@ -28,6 +29,10 @@ struct CommandLine {
 /// Understands the arguments after the program's name, or gives nothing and `error`, one line, in plain
 /// words.
 std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QString &error);
+
+/// The text of --list-models: a line for each model with an efficiency curve, tab-separated: position, code,
+/// rated watts, curve file, series code.
+QString modelList();
 
 /// The text of --help.
 QString helpText();

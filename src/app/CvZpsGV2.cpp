@@ -1,9 +1,12 @@
 #include "app/CvZpsGV2.h"
 
+#include "app/DaySettings.h"
 #include "app/Logging.h"
+#include "app/ViewFeed.h"
 #include "platform/DeviceAccess.h"
 #include "platform/NativeEvent.h"
 #include "sensors/pcInfoReader.h"
+#include "ui/AlarmText.h"
 #include "ui/DashboardPage.h"
 #include "ui/MainView.h"
 #include "ui/TitleBar.h"
@@ -29,7 +32,10 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , paths_(std::move(parts.paths))
     , demo_(parts.demo)
     , settings_(paths_.data)
-    , monitor_(std::move(parts.backend), parts.timing) {
+    , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
+    , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
+    , day_(dayStorage(settings_))
+    , random_(std::move(parts.random)) {
     readSettings();
     loadLanguage();
     buildWindow();
@@ -113,6 +119,7 @@ void CvZpsGV2::createTray() {
     tray_ = new QSystemTrayIcon(windowIcon(), this);
     tray_->setContextMenu(trayMenu_);
     connect(tray_, &QSystemTrayIcon::activated, this, &CvZpsGV2::iconActivated);
+    connect(tray_, &QSystemTrayIcon::messageClicked, this, &CvZpsGV2::showAgain);
     retranslate();
     tray_->show();
 }
@@ -124,27 +131,13 @@ void CvZpsGV2::retranslate() {
 }
 
 void CvZpsGV2::createServices() {
-    connect(&monitor_, &psu::SupplyMonitor::message, this, &CvZpsGV2::showMessage);
-    connect(&monitor_, &psu::SupplyMonitor::reconnectDue, this, &CvZpsGV2::deviceChanged,
-            Qt::QueuedConnection);
+    auto *monitor = &supply_.monitor();
+    connect(monitor, &psu::SupplyMonitor::message, this, &CvZpsGV2::showMessage);
+    connect(monitor, &psu::SupplyMonitor::reconnectDue, this, &CvZpsGV2::deviceChanged, Qt::QueuedConnection);
+    connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::takeSample);
+    connect(&alarms_, &Alarms::began, this, &CvZpsGV2::tellAlarm);
     deviceWatch_ =
         platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
-}
-
-bool CvZpsGV2::identifyModel() {
-    const bool opened = monitor_.openAtStart();
-    if (opened) {
-        monitor_.readModelText();
-    }
-    return opened;
-}
-
-bool CvZpsGV2::connectPsu() {
-    const bool opened = monitor_.connectPsu();
-    if (opened && monitor_.modelText().isEmpty()) {
-        monitor_.readModelText();
-    }
-    return opened;
 }
 
 void CvZpsGV2::setUpPages() {
@@ -152,11 +145,10 @@ void CvZpsGV2::setUpPages() {
     dashboard->setDemo(demo_);
     dashboard->setRemedy(
         QString::fromStdString(platform::deviceAccessRemedy(paths_.resources.toStdString())));
-    dashboard->showLinkState(monitor_.state(), monitor_.modelText());
-    connect(&monitor_, &psu::SupplyMonitor::stateChanged, dashboard, [this, dashboard](psu::LinkState state) {
-        dashboard->showLinkState(state, monitor_.modelText());
-    });
-    view_->setMainEnabled(monitor_.mainPathPresent() || monitor_.rawPathPresent());
+    feed_ = new ViewFeed(supply_, alarms_, day_, settings_, *view_, random_, this);
+    view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
+    day_.loadDayProfile(QDate::currentDate());
+    feed_->showDay(QDateTime::currentDateTime());
     demoInfo();
 }
 
@@ -203,9 +195,29 @@ void CvZpsGV2::alignAutostart() {
 }
 
 void CvZpsGV2::demoInfo() {
-    if (monitor_.hasReading()) {
-        view_->dashboard()->showReading(monitor_.record(), QDateTime::currentMSecsSinceEpoch());
+    if (monitor().hasReading()) {
+        feed_->takeReading(QDateTime::currentDateTime());
     }
+}
+
+void CvZpsGV2::ClockTick() {
+    const auto now = QDateTime::currentDateTime();
+    day_.tick(now);
+    feed_->showDay(now);
+}
+
+void CvZpsGV2::takeSample() {
+    const auto &record = monitor().record();
+    if (record.measured(QStringLiteral("WATTS"))) {
+        day_.addSample(record.text(QStringLiteral("WATTS")), QDateTime::currentDateTime());
+    }
+}
+
+void CvZpsGV2::tellAlarm(const psu::AlarmEntry &entry) {
+    tray_->showMessage(ui::alarmTitle(entry.kind),
+                       ui::alarmValue(entry.kind, entry.value) + QLatin1Char('\n') +
+                           ui::alarmAdvice(entry.kind),
+                       QSystemTrayIcon::Warning);
 }
 
 bool CvZpsGV2::windowMessage(const WindowMessage &message) {
@@ -228,7 +240,7 @@ bool CvZpsGV2::windowMessage(const WindowMessage &message) {
 }
 
 bool CvZpsGV2::setLightingSync(bool on, const QString &modeText) {
-    if (ringVariant_ != kDuoRing) {
+    if (supply_.profile().seriesCode != kDuoRing) {
         return false;
     }
     lightingSync_ = {on, modeText};

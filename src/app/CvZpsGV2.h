@@ -3,14 +3,18 @@
 // slot here checks, calls one of them, and returns.
 #pragma once
 
+#include "app/Alarms.h"
 #include "app/Paths.h"
 #include "app/Settings.h"
+#include "app/Supply.h"
 #include "platform/Autostart.h"
 #include "platform/DeviceWatch.h"
 #include "platform/WindowRendezvous.h"
-#include "psu/SupplyMonitor.h"
+#include "power/DayProfile.h"
+#include "power/Efficiency.h"
 
 #include <QMainWindow>
+#include <QRandomGenerator>
 #include <QSystemTrayIcon>
 #include <QThread>
 #include <QTimer>
@@ -37,24 +41,45 @@ struct WindowParts {
     std::unique_ptr<psu::HidBackend> backend;
     bool demo = false; ///< simulated supply: leave the system (autostart, companion) alone
     psu::MonitorTiming timing{};
+    power::RandomSource random = [] { return QRandomGenerator::global()->generate(); };
 };
+
+class ViewFeed;
 
 class CvZpsGV2 : public QMainWindow {
     Q_OBJECT
 
 public:
+    /// The codes of power::kCurveModels by their positions, registered so that other programs find a position
+    /// by name.
+    // clang-format off
+    enum CWTPowerList {
+        CVA1250P, CVA0750P, CVA0650P, CVA0700B, CVA0600B,
+        CVB0450S, CVB0550S, CVB0650S, CVB0750S, CVB0850R,
+        CVC1050R, CVC0700R, CVC0600R, CVC0500R, CVC0450R,
+        CVD0350R, CVD0650F, CVD0750F, CVD0850F, CVD1250L,
+        CVG0850Z, CVG1050Z, CVG1200Z, CVG1250Z,
+        CVX1000D, CVX0750D, CVX0850D, CVX1000E,
+    };
+    Q_ENUM(CWTPowerList)
+    /// The same for power::kEnhancedModels.
+    enum EnhancePowerList { CVE0850A, CVE1050A, CVE1200A, CVE0850F, CVE1000F, CVE1500F };
+    Q_ENUM(EnhancePowerList)
+    // clang-format on
+
     explicit CvZpsGV2(WindowParts parts, QWidget *parent = nullptr);
     ~CvZpsGV2() override;
 
     /// Acts on a numbered message, from wherever it came; false when it is none of this window's.
     bool windowMessage(const platform::WindowMessage &message);
 
-    /// Identifies the supply; the first call also opens it. True when one is there.
-    bool identifyModel();
-    /// Reopens the supply; see psu::SupplyMonitor::connectPsu().
-    bool connectPsu();
+    /// Opens and identifies the supply; see Supply::identifyModel().
+    bool identifyModel() { return supply_.identifyModel(); }
+    /// Reopens the supply; see Supply::connectPsu().
+    bool connectPsu() { return supply_.connectPsu(); }
 
-    [[nodiscard]] psu::SupplyMonitor &monitor() { return monitor_; }
+    [[nodiscard]] psu::SupplyMonitor &monitor() { return supply_.monitor(); }
+    [[nodiscard]] const Supply &supply() const { return supply_; }
 
 signals:
     void mainToSocketHelpRGB_State(bool powerPresent, int lightingKind);
@@ -69,7 +94,7 @@ public slots:
     void hwinfoOpenFail(const QString &) {}
     void mqttAnalysis(const QString &) {}
     void tabChange() {}
-    void readInfo() { monitor_.readInfo(); }
+    void readInfo() { supply_.monitor().readInfo(); }
     void demoInfo();
     void popUpTempUnit() {}
     void popUpEleCost() {}
@@ -82,7 +107,7 @@ public slots:
     void checkUploadState() {}
     void changeLanguage();
     void resetLanguage();
-    void ClockTick() {}
+    void ClockTick();
     void slotsTimePass() {}
     void messageBReceiveData(const QString &) {}
     void aboutSubmit() {}
@@ -172,15 +197,21 @@ private:
     void leaveScreen();
     bool setLightingSync(bool on, const QString &modeText);
     void showMessage(const QString &text);
+    void tellAlarm(const psu::AlarmEntry &entry);
+    void takeSample();
     void retranslate();
 
     Paths paths_;
     bool demo_;
     Settings settings_;
-    psu::SupplyMonitor monitor_;
+    Supply supply_;
+    Alarms alarms_;
+    power::DayProfile day_;
+    power::RandomSource random_;
     QTranslator english_;
     QTranslator translator_;
     ui::MainView *view_ = nullptr; // owned by the window
+    ViewFeed *feed_ = nullptr;     // owned by the window
     QSystemTrayIcon *tray_ = nullptr;
     QMenu *trayMenu_ = nullptr;
     QTimer *readTimer_ = nullptr;
@@ -188,7 +219,6 @@ private:
     std::unique_ptr<sensors::pcInfoReader> sensors_;
     std::unique_ptr<QTimer> sensorTimer_; // without parent: it lives in the sensor thread
     std::unique_ptr<platform::DeviceWatch> deviceWatch_;
-    int ringVariant_ = 0;
     LightingSync lightingSync_;
 };
 

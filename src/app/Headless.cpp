@@ -21,10 +21,10 @@ struct Column {
 };
 
 constexpr std::array kColumns{
-    Column{"WATTS", "output W", 1, 9},   Column{"VIN", "input V", 1, 8}, Column{"VVOut12", "12 V", 2, 7},
-    Column{"VIOut12", "A", 2, 7},        Column{"VVOut5", "5 V", 2, 7},  Column{"VIOut5", "A", 2, 7},
-    Column{"VVOut33", "3.3 V", 2, 7},    Column{"VIOut33", "A", 2, 7},   Column{"Temp", "temp C", 1, 8},
-    Column{"FanSpeed", "fan rpm", 0, 9},
+    Column{"WATTS", "output W", 1, 9}, Column{"EFF", "eff %", 1, 7},        Column{"VIN", "input V", 1, 8},
+    Column{"VVOut12", "12 V", 2, 7},   Column{"VIOut12", "A", 2, 7},        Column{"VVOut5", "5 V", 2, 7},
+    Column{"VIOut5", "A", 2, 7},       Column{"VVOut33", "3.3 V", 2, 7},    Column{"VIOut33", "A", 2, 7},
+    Column{"Temp", "temp C", 1, 8},    Column{"FanSpeed", "fan rpm", 0, 9},
 };
 
 /// No window stands still meanwhile.
@@ -61,15 +61,18 @@ QByteArray readingAsJson(const psu::TelemetryRecord &record, const QString &mode
 QByteArray readingAsText(const psu::TelemetryRecord &record, const QDateTime &time) {
     QString line = time.toString(QStringLiteral("hh:mm:ss")).leftJustified(kTimeWidth);
     for (const auto &column : kColumns) {
-        line += QString::number(record.number(QLatin1String(column.key)), 'f', column.decimals)
+        const QLatin1String key(column.key);
+        line += (record.measured(key) ? QString::number(record.number(key), 'f', column.decimals)
+                                      : QStringLiteral("-"))
                     .rightJustified(column.width);
     }
     return line.toUtf8();
 }
 
-Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
-                   std::FILE *out, std::FILE *notes)
-    : monitor_(std::move(backend), {{}, kPatience})
+Headless::Headless(std::unique_ptr<psu::HidBackend> backend, const QStringList &curveFolders,
+                   ReadingFormat format, std::string remedy, std::FILE *out, std::FILE *notes)
+    : supply_(std::move(backend), {{}, kPatience}, curveFolders)
+    , monitor_(supply_.monitor())
     , alarms_([] { return QRandomGenerator::global()->generate(); })
     , format_(format)
     , remedy_(std::move(remedy))
@@ -89,9 +92,8 @@ Headless::Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat forma
 Headless::~Headless() = default;
 
 void Headless::start() {
-    if (monitor_.openAtStart()) {
-        monitor_.readModelText();
-    } else {
+    supply_.identifyModel();
+    if (!monitor_.mainPathPresent() && !monitor_.rawPathPresent()) {
         note(monitor_.state());
     }
     monitor_.readInfo();
@@ -100,17 +102,13 @@ void Headless::start() {
 }
 
 void Headless::deviceChanged() {
-    if (!monitor_.connectPsu()) {
-        return;
+    if (supply_.connectPsu()) {
+        QMetaObject::invokeMethod(&monitor_, "readInfo", Qt::QueuedConnection);
     }
-    if (monitor_.modelText().isEmpty()) {
-        monitor_.readModelText();
-    }
-    QMetaObject::invokeMethod(&monitor_, "readInfo", Qt::QueuedConnection);
 }
 
 void Headless::print() {
-    for (const auto begun : alarms_.tick(monitor_.record())) {
+    for (const auto begun : alarms_.tick(monitor_.record()).begun) {
         std::fprintf(notes_, "zpsg: alarm: %s\n", psu::alarmName(begun));
     }
     const auto now = QDateTime::currentDateTime();

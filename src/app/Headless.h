@@ -1,8 +1,8 @@
 // The program without a window: reads the supply once a second and prints each reading.
 #pragma once
 
+#include "app/Supply.h"
 #include "psu/AlarmSupervisor.h"
-#include "psu/SupplyMonitor.h"
 
 #include <QTimer>
 
@@ -23,10 +23,10 @@ class Headless : public QObject {
 
 public:
     /// Readings go to `out`, one line each and flushed; what a person should know goes to `notes`. Both
-    /// outlive this.
+    /// outlive this. Curve files are looked for below each of `curveFolders`.
     /// `remedy` is the command that gives this user access to the device.
-    Headless(std::unique_ptr<psu::HidBackend> backend, ReadingFormat format, std::string remedy,
-             std::FILE *out, std::FILE *notes);
+    Headless(std::unique_ptr<psu::HidBackend> backend, const QStringList &curveFolders, ReadingFormat format,
+             std::string remedy, std::FILE *out, std::FILE *notes);
     ~Headless() override;
 
     /// Opens the supply, takes the first reading and starts the once-a-second timer.
@@ -41,7 +41,8 @@ private:
     void note(psu::LinkState state);
     void deviceChanged();
 
-    psu::SupplyMonitor monitor_;
+    Supply supply_;
+    psu::SupplyMonitor &monitor_;
     psu::AlarmSupervisor alarms_;
     ReadingFormat format_;
     std::string remedy_;

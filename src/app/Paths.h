@@ -1,7 +1,7 @@
 // Where the program finds what ships with it, and where it keeps what it writes.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -11,6 +11,9 @@ struct Paths {
     QString executable;
     QString resources; ///< holds Language/, Image/ and the other shipped folders
     QString data;      ///< holds the settings files and everything that is recorded
+
+    /// Where curve files are looked for: the user's own go before those that ship.
+    [[nodiscard]] QStringList curveFolders() const { return {data, resources}; }
 };
 
 /// Decides both. `dataDir`, when given, is used as it is and created when missing; otherwise the data

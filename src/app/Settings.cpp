@@ -1,6 +1,7 @@
 #include "app/Settings.h"
 
 #include "app/Logging.h"
+#include "storage/IniFile.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -37,6 +38,9 @@ QVariant fitted(const SettingRow &row, const QVariant &value) {
         number = std::clamp(number, row.lowest, row.highest);
         return row.type == SettingType::Real ? QVariant(number) : QVariant(static_cast<int>(number));
     }
+    case SettingType::List:
+        return value.toString().isEmpty() && value.type() != QVariant::StringList ? QStringList()
+                                                                                  : value.toStringList();
     case SettingType::Text:
         // A comma in the file makes a list of it; no text setting holds one.
         return value.type() == QVariant::StringList ? value.toStringList().join(QLatin1Char(','))
@@ -62,6 +66,7 @@ QString Settings::path(SettingsFile file) const {
 void Settings::keepIfDamaged(SettingsFile file) const {
     const QString name = path(file);
     QSettings parsed(name, QSettings::IniFormat);
+    parsed.setIniCodec(kIniCodec); // what is parsed here is kept for later readers
     parsed.allKeys(); // sections are parsed when they are first looked at
     if (parsed.status() != QSettings::FormatError) {
         return;
@@ -91,21 +96,22 @@ double Settings::real(Setting id) const { return value(id).toDouble(); }
 
 QString Settings::text(Setting id) const { return value(id).toString(); }
 
+QStringList Settings::list(Setting id) const { return value(id).toStringList(); }
+
 bool Settings::write(std::initializer_list<std::pair<Setting, QVariant>> values) {
     const SettingsFile where = row(values.begin()->first).file;
-    QSettings file(path(where), QSettings::IniFormat);
-    file.setIniCodec(kIniCodec);
     for (const auto &[id, value] : values) {
         Q_ASSERT(row(id).file == where);
         unwritten_[id] = fitted(row(id), value);
     }
-    for (auto kept = unwritten_.constBegin(); kept != unwritten_.constEnd(); ++kept) {
-        if (row(kept.key()).file == where) {
-            file.setValue(keyOf(row(kept.key())), *kept);
+    const bool written = storage::changeIniFile(path(where), [this, where](QSettings &file) {
+        for (auto kept = unwritten_.constBegin(); kept != unwritten_.constEnd(); ++kept) {
+            if (row(kept.key()).file == where) {
+                file.setValue(keyOf(row(kept.key())), *kept);
+            }
         }
-    }
-    file.sync();
-    if (file.status() == QSettings::AccessError) {
+    });
+    if (!written) {
         if (!std::exchange(warned_[where], true)) {
             qCWarning(lcApp).noquote()
                 << path(where) << "can't be written; its settings are kept until the program ends";

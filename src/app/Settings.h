@@ -4,7 +4,7 @@
 
 #include "app/SettingsTable.h"
 
-#include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <initializer_list>
@@ -23,6 +23,7 @@ public:
     [[nodiscard]] int integer(Setting id) const;
     [[nodiscard]] double real(Setting id) const;
     [[nodiscard]] QString text(Setting id) const;
+    [[nodiscard]] QStringList list(Setting id) const;
 
     /// All values go into the file of the first, which must be the file of them all. False, with a warning
     /// once a file, when it can't be written; reading then still gives the new values until the program ends.

@@ -12,7 +12,7 @@ enum class SettingsFile { General, Features, Clock, SaveFunction, VoltCheck };
 inline constexpr std::array kSettingsFileNames{"/config_ZPSG.ini", "/config_Features.ini", "/clockData.ini",
                                                "/saveFunction.ini", "/voltCheck.ini"};
 
-enum class SettingType { Flag, Integer, Real, Text };
+enum class SettingType { Flag, Integer, Real, Text, List };
 
 enum class Setting {
     FanDuty,
@@ -30,6 +30,12 @@ enum class Setting {
     Account,
     SelfFilledInSerial,
     Autostart,
+    VoltWarning,
+    FanWarning,
+    TempWarning,
+    TrendView,
+    DayWatts,
+    DayDate,
     SensorsEnabled,
     Count,
 };
@@ -76,6 +82,17 @@ inline constexpr std::array kSettingsTable{
     SettingRow{Setting::SelfFilledInSerial, SettingsFile::General, "/Setting/self_Fill_In_SN",
                SettingType::Text, ""},
     SettingRow{Setting::Autostart, SettingsFile::General, "/Setting/Autostart", SettingType::Flag, "false"},
+    SettingRow{Setting::VoltWarning, SettingsFile::General, "/Setting/VoltWarning", SettingType::Flag,
+               "true"},
+    SettingRow{Setting::FanWarning, SettingsFile::General, "/Setting/FanWarning", SettingType::Flag, "true"},
+    SettingRow{Setting::TempWarning, SettingsFile::General, "/Setting/TempWarning", SettingType::Flag,
+               "true"},
+    // the dashboard's lower card: 0 last minutes, 1 today, 2 efficiency
+    SettingRow{Setting::TrendView, SettingsFile::General, "/Setting/TrendView", SettingType::Integer, "0", 0,
+               2},
+    // watts, a text for each four minutes from 06:00
+    SettingRow{Setting::DayWatts, SettingsFile::Clock, "/TimeData/WATTSData", SettingType::List, ""},
+    SettingRow{Setting::DayDate, SettingsFile::Clock, "/TimeData/Date", SettingType::Text, ""}, // MM-dd
     SettingRow{Setting::SensorsEnabled, SettingsFile::Features, "/Features/PcSensors", SettingType::Flag,
                "false"},
 };

@@ -47,7 +47,7 @@ int runHeadless(QCoreApplication &application, const app::CommandLine &line, con
             title->deliverTo([](const platform::WindowMessage &) { return false; });
         }
     }
-    app::Headless headless(app::makeBackend(line),
+    app::Headless headless(app::makeBackend(line), paths.curveFolders(),
                            line.json ? app::ReadingFormat::Json : app::ReadingFormat::Text,
                            platform::deviceAccessRemedy(paths.resources.toStdString()), stdout, stderr);
     QObject::connect(&headless, &app::Headless::outputFailed, &application,
@@ -73,6 +73,10 @@ int main(int argc, char **argv) {
     }
     if (line->showHelp) {
         std::fputs(app::helpText().toUtf8().constData(), stdout);
+        return app::kExitOk;
+    }
+    if (line->listModels) {
+        std::fputs(app::modelList().toUtf8().constData(), stdout);
         return app::kExitOk;
     }
     if (line->showVersion) {

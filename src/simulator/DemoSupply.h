@@ -16,6 +16,6 @@ std::shared_ptr<SimulatedBus> makeDemoBus(const std::string &modelText,
                                           WallClock clock = std::chrono::system_clock::now);
 
 /// The model that --demo shows when none is named.
-inline constexpr const char *kDemoModel = "CVD-1000-DUO";
+inline constexpr const char *kDemoModel = "CVX-1000-D";
 
 } // namespace zpsg::simulator

@@ -52,7 +52,7 @@ class SupplyModel {
 public:
     /// `modelText` is what the supply reports as its model, dashes included, at most 62 bytes; a four-digit
     /// number in it is the rated watts (else 1000). An empty `serial` is reported as "noSN".
-    explicit SupplyModel(std::string modelText = "CVD-1000-DUO", std::string serial = {});
+    explicit SupplyModel(std::string modelText = "CVX-1000-D", std::string serial = {});
 
     // The physical side.
 

@@ -6,17 +6,19 @@ src=${1:?usage: check_layers.sh SRC}
 
 declare -A allowed=(
     [platform]="platform"
+    [cipher]="cipher"
+    [storage]="storage"
     [psu]="psu platform"
     [simulator]="simulator psu platform"
-    [power]="power psu"
-    [records]="records power psu"
+    [power]="power psu cipher storage"
+    [records]="records power psu cipher storage"
     [lighting]="lighting psu platform"
     [fan]="fan psu"
     [remote]="remote psu"
     [cloud]="cloud"
     [sensors]="sensors platform"
     [ui]="ui psu power records lighting fan sensors"
-    [app]="app ui psu power records lighting fan remote cloud sensors simulator platform"
+    [app]="app ui psu power records lighting fan remote cloud sensors simulator platform storage"
 )
 
 bad=0

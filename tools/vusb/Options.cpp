@@ -19,7 +19,7 @@ to open /dev/uhid, which usually means root.
 
   --raw           the product that is read with get-report requests (232A), else the main one (2329)
   --loose         declares short reports, so that those of "fault short" pass kernels that drop them
-  --model TEXT    what it reports as its model (default CVD-1000-DUO)
+  --model TEXT    what it reports as its model (default CVX-1000-D)
   --serial TEXT   what it reports as its serial number (default none)
   --load WATTS    a fixed load; without it the load follows a day of idling, work and play
 

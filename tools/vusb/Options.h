@@ -13,7 +13,7 @@ namespace zpsg::vusb {
 struct Options {
     Product product = Product::Main;
     InputLength inputLength = InputLength::Exact;
-    std::string model = "CVD-1000-DUO";
+    std::string model = "CVX-1000-D";
     std::string serial;
     /// Watts; without it the load follows the day.
     std::optional<double> load;

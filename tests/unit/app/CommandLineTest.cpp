@@ -51,7 +51,7 @@ TEST(CommandLine, HelpFitsATerminalAndNamesEveryOption) {
         EXPECT_LE(line.size(), 80) << line.toStdString();
     }
     for (const char *option :
-         {"open", "--demo", "--data-dir", "--headless", "--json", "--version", "--help"}) {
+         {"open", "--demo", "--data-dir", "--headless", "--json", "--list-models", "--version", "--help"}) {
         EXPECT_TRUE(helpText().contains(QLatin1String(option))) << option;
     }
 }

@@ -1,6 +1,8 @@
 #include "app/CvZpsGV2.h"
+#include "power/ModelTable.h"
 #include "simulator/SimulatedBus.h"
 
+#include <QMetaEnum>
 #include <QMetaMethod>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -65,6 +67,19 @@ TEST_F(ControllerTest, DeclaresItsSignalsAndSlotsInTheAgreedOrder) {
     EXPECT_EQ(signature(80), "getLocat_China_FinishedSlot(QNetworkReply*)");
     EXPECT_EQ(signature(82), "powerStatusConfirmSlot()");
     EXPECT_EQ(meta.methodCount() - meta.methodOffset(), 83);
+}
+
+// The table of models and the registered lists are two places that say the same.
+TEST_F(ControllerTest, RegistersTheModelCodesInTheOrderOfTheTable) {
+    const auto expectSame = [](const QMetaEnum &list, const auto &rows) {
+        ASSERT_EQ(list.keyCount(), static_cast<int>(rows.size()));
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            EXPECT_EQ(list.keyToValue(std::string(rows[i].code).c_str()), static_cast<int>(i));
+        }
+    };
+    const auto &meta = app::CvZpsGV2::staticMetaObject;
+    expectSame(meta.enumerator(meta.indexOfEnumerator("CWTPowerList")), power::kCurveModels);
+    expectSame(meta.enumerator(meta.indexOfEnumerator("EnhancePowerList")), power::kEnhancedModels);
 }
 
 TEST_F(ControllerTest, FirstReadingIsThereWhenTheWindowIs) {

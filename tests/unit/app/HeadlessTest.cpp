@@ -39,7 +39,7 @@ protected:
 };
 
 TEST_F(HeadlessTest, PrintsTheRecordAsOneJsonObject) {
-    app::Headless headless(bus->backend(), app::ReadingFormat::Json, "do this", out.get(), notes.get());
+    app::Headless headless(bus->backend(), {}, app::ReadingFormat::Json, "do this", out.get(), notes.get());
     headless.start();
     const auto lines = linesOf(out.get());
     ASSERT_EQ(lines.size(), 1);
@@ -53,7 +53,7 @@ TEST_F(HeadlessTest, PrintsTheRecordAsOneJsonObject) {
 }
 
 TEST_F(HeadlessTest, ColumnsStandUnderTheirHeadings) {
-    app::Headless headless(bus->backend(), app::ReadingFormat::Text, "do this", out.get(), notes.get());
+    app::Headless headless(bus->backend(), {}, app::ReadingFormat::Text, "do this", out.get(), notes.get());
     headless.start();
     const auto lines = linesOf(out.get());
     ASSERT_EQ(lines.size(), 2);
@@ -63,7 +63,7 @@ TEST_F(HeadlessTest, ColumnsStandUnderTheirHeadings) {
 
 TEST_F(HeadlessTest, SaysWhatIsMissingAndPrintsNoReading) {
     bus->denyAccess(true);
-    app::Headless headless(bus->backend(), app::ReadingFormat::Json, "do this", out.get(), notes.get());
+    app::Headless headless(bus->backend(), {}, app::ReadingFormat::Json, "do this", out.get(), notes.get());
     headless.start();
     EXPECT_TRUE(linesOf(out.get()).isEmpty());
     EXPECT_THAT(linesOf(notes.get()).join('\n').toStdString(),
@@ -73,7 +73,7 @@ TEST_F(HeadlessTest, SaysWhatIsMissingAndPrintsNoReading) {
 TEST_F(HeadlessTest, TellsWhenItsOutputIsFull) {
     const File full(std::fopen("/dev/full", "w"));
     ASSERT_TRUE(full);
-    app::Headless headless(bus->backend(), app::ReadingFormat::Json, "do this", full.get(), notes.get());
+    app::Headless headless(bus->backend(), {}, app::ReadingFormat::Json, "do this", full.get(), notes.get());
     const QSignalSpy failed(&headless, &app::Headless::outputFailed);
     headless.start();
     EXPECT_EQ(failed.count(), 1);

@@ -1,13 +1,13 @@
 #include "app/Settings.h"
 
+#include "support/FullDisk.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace zpsg::app;
@@ -33,6 +33,7 @@ protected:
 };
 
 TEST_F(SettingsTest, GivesDefaultsAndKeepsWhatIsWritten) {
+    const QStringList day{QStringLiteral("0"), QStringLiteral("12.5"), QStringLiteral("1e+06")};
     {
         Settings settings(dir.path());
         EXPECT_EQ(settings.text(Setting::Language), QStringLiteral("en"));
@@ -41,12 +42,16 @@ TEST_F(SettingsTest, GivesDefaultsAndKeepsWhatIsWritten) {
                                     {Setting::TotalUsedKwh, 12.5},
                                     {Setting::Account, QStringLiteral("a;b, \"Ä\" =]")},
                                     {Setting::FanDuty, 99}}));
+        EXPECT_TRUE(settings.list(Setting::DayWatts).isEmpty());
+        EXPECT_TRUE(settings.write({{Setting::DayWatts, day}, {Setting::DayDate, QStringLiteral("11-21")}}));
     }
     const Settings again(dir.path());
     EXPECT_EQ(again.text(Setting::Language), QStringLiteral("jp"));
     EXPECT_EQ(again.real(Setting::TotalUsedKwh), 12.5);
     EXPECT_EQ(again.text(Setting::Account), QStringLiteral("a;b, \"Ä\" =]"));
     EXPECT_EQ(again.integer(Setting::FanDuty), 3); // the highest there is
+    EXPECT_EQ(again.list(Setting::DayWatts), day);
+    EXPECT_EQ(again.text(Setting::DayDate), QStringLiteral("11-21"));
     EXPECT_TRUE(content().contains("[Setting]"));
     EXPECT_TRUE(content().contains("Language=jp"));
 }
@@ -104,32 +109,14 @@ TEST_F(SettingsTest, NothingIsLostFromADamagedFile) {
     }
 }
 
-/// While it lives no file can grow beyond `bytes`: what a full disk does to a writer.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        previousHandler_ = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &previous_);
-        const rlimit limit{bytes, previous_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &previous_);
-        std::signal(SIGXFSZ, previousHandler_);
-    }
-
-private:
-    rlimit previous_{};
-    void (*previousHandler_)(int) = nullptr;
-};
-
 TEST_F(SettingsTest, AFullDiskLeavesTheFileWholeAndTheValueIsWrittenLater) {
     Settings settings(dir.path());
-    ASSERT_TRUE(settings.write({{Setting::Language, QStringLiteral("fr")}}));
+    // Long enough that a small file beside it still fits when it does not.
+    ASSERT_TRUE(settings.write({{Setting::Account, QString(120, QLatin1Char('x'))}}));
     const QByteArray before = content();
     const auto longest = static_cast<rlim_t>(before.size()) + 5; // the new line is longer than that
     for (rlim_t bytes = 0; bytes < longest; ++bytes) {
-        const FullDisk disk(bytes);
+        const zpsg::test::FullDisk disk(bytes);
         ASSERT_FALSE(settings.write({{Setting::TotalUsedTime, 123456}})) << bytes;
         ASSERT_EQ(content(), before) << bytes;
     }

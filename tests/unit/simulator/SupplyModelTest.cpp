@@ -27,7 +27,7 @@ Bytes head(SupplyModel &model, std::initializer_list<std::uint8_t> payload, std:
 }
 
 TEST(SupplyModel, AnswersEveryKnownReportAndNoOther) {
-    SupplyModel model("CVD-1000-DUO", "AB12");
+    SupplyModel model("CVX-1000-D", "AB12");
     EXPECT_THAT(head(model, {0xFE, 0x31}), ElementsAre(0xFE, 0x31, 0, 0));
     EXPECT_THAT(head(model, {0x31, 0x3D}, 6), ElementsAre(0x31, 0x3D, 'C', 'V', 'D', '-'));
     EXPECT_THAT(head(model, {0x31, 0x3E}, 7), ElementsAre(0x31, 0x3E, 'A', 'B', '1', '2', 0));
@@ -63,7 +63,7 @@ TEST(SupplyModel, KeepsFanModeSpeedAndLights) {
 }
 
 TEST(SupplyModel, TakesTheRatingFromItsName) {
-    const std::map<std::string, double> ratings{{"CVD-1000-DUO", 1000}, {"CVG0850", 850},
+    const std::map<std::string, double> ratings{{"CVX-1000-D", 1000}, {"CVG0850", 850},
                                                 {"CV-08-50-G", 850},    {"AX1600i", 1600},
                                                 {"NoNumber", 1000},     {"", 1000}};
     for (const auto &[name, watts] : ratings) {

@@ -1,0 +1,47 @@
+// The supply and what is known of its model: the link, the identification, the profile and the curve.
+#pragma once
+
+#include "power/EfficiencyTable.h"
+#include "psu/SupplyMonitor.h"
+
+#include <QObject>
+
+namespace zpsg::app {
+
+/// GUI thread only.
+class Supply : public QObject {
+    Q_OBJECT
+
+public:
+    /// Curve files are looked for below each of `folders`, the first first.
+    Supply(std::unique_ptr<psu::HidBackend> backend, psu::MonitorTiming timing, QStringList folders,
+           QObject *parent = nullptr);
+
+    /// Opens the supply for the first time and identifies it. True when its model is supported (main path) or
+    /// the raw device was found; a supply that takes longer to tell its model is identified when it has.
+    bool identifyModel();
+
+    /// Reopens the supply; see psu::SupplyMonitor::connectPsu(). One that has never told its model is asked
+    /// for it; a model that is known is not asked again.
+    bool connectPsu();
+
+    [[nodiscard]] psu::SupplyMonitor &monitor() { return monitor_; }
+    [[nodiscard]] const psu::SupplyMonitor &monitor() const { return monitor_; }
+    [[nodiscard]] const power::EfficiencyTable &efficiency() const { return efficiency_; }
+    [[nodiscard]] const power::EfficiencyProfile &profile() const { return efficiency_.profile(); }
+    /// The model is one of the lists'.
+    [[nodiscard]] bool identified() const { return identified_; }
+
+signals:
+    /// The model was identified, or its curve loaded for the other mains voltage.
+    void profileChanged();
+
+private:
+    void recognise();
+
+    power::EfficiencyTable efficiency_;
+    psu::SupplyMonitor monitor_;
+    bool identified_ = false;
+};
+
+} // namespace zpsg::app

@@ -1,0 +1,46 @@
+// Carries what the subsystems know to the pages, and what a user sets on a page to the subsystems.
+#pragma once
+
+#include "app/Alarms.h"
+#include "app/Supply.h"
+#include "power/DayProfile.h"
+#include "power/Efficiency.h"
+
+#include <QObject>
+
+namespace zpsg::ui {
+class DashboardPage;
+class MainView;
+} // namespace zpsg::ui
+
+namespace zpsg::app {
+
+/// Everything it is given outlives it.
+class ViewFeed : public QObject {
+    Q_OBJECT
+
+public:
+    ViewFeed(Supply &supply, Alarms &alarms, const power::DayProfile &day, Settings &settings,
+             ui::MainView &view, power::RandomSource random, QObject *parent = nullptr);
+
+    /// Once a second: supervises the latest reading and shows it as it is supervised.
+    void takeReading(const QDateTime &now);
+    /// After the minute clock has gone on.
+    void showDay(const QDateTime &now);
+
+private:
+    void showReading(const QDateTime &now);
+    void showLinkState();
+    void showProfile();
+    void showAlarms();
+    void connectAlarms();
+
+    Supply &supply_;
+    Alarms &alarms_;
+    const power::DayProfile &day_;
+    Settings &settings_;
+    ui::MainView &view_;
+    power::RandomSource random_;
+};
+
+} // namespace zpsg::app
