@@ -69,7 +69,7 @@ protected:
         return device;
     }
 
-    vusb::UhidSupply supply_{simulator::SupplyModel("CVD-1000-DUO", "SN-4711")};
+    vusb::UhidSupply supply_{simulator::SupplyModel("CVX-1000-D", "SN-4711")};
 };
 
 /// The size of a main path's report.

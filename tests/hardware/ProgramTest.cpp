@@ -2,7 +2,10 @@
 // happens to the cable.
 #include "ChildProcess.h"
 #include "GuestFixture.h"
+#include "power/CurveFile.h"
+#include "power/ModelTable.h"
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -59,7 +62,7 @@ protected:
         for (const auto &[key, value] : rows) {
             EXPECT_NEAR(shown[QLatin1String(key)].toDouble(), value, value * (relative + 1e-5)) << key;
         }
-        EXPECT_EQ(shown[QStringLiteral("model")].toString(), QStringLiteral("CVD-1000-DUO"));
+        EXPECT_EQ(shown[QStringLiteral("model")].toString(), QStringLiteral("CVX-1000-D"));
     }
 
     void end() {
@@ -94,6 +97,57 @@ TEST_F(ProgramTest, ShowsWhatTheSupplyWasToldOnBothPaths) {
     plug(Product::Raw);
     reading();
     expectTold(kRawStep);
+    end();
+}
+
+/// The code as a supply reports it: CVX-1000-D for CVX1000D.
+std::string reported(std::string_view code) {
+    return std::string(code.substr(0, 3)) + '-' + std::string(code.substr(3, 4)) + '-' +
+           std::string(code.substr(7));
+}
+
+TEST_F(ProgramTest, IdentifiesEachModelAndReadsAnUnknownOneAllTheSame) {
+    const auto startTalkative = [this](const std::string &model) {
+        supply_.withModel([&](SupplyModel &supply) {
+            supply = SupplyModel(model);
+            supply.setQuantities(told_);
+        });
+        plug(Product::Main);
+        program_ = std::make_unique<ChildProcess>(
+            "/bin/sh",
+            std::vector<std::string>{"-c", "QT_LOGGING_RULES='zpsg.app.debug=true' exec " ZPSG_PROGRAM
+                                           " --headless --json --data-dir /run/zpsg-data 2>&1"});
+    };
+    for (const auto &row : power::kCurveModels) {
+        SCOPED_TRACE(row.code);
+        startTalkative(reported(row.code));
+        const auto profile = program_->readLineWith("profile ", kPatience);
+        ASSERT_TRUE(profile);
+        EXPECT_EQ(
+            profile->substr(profile->find("profile "))
+                .rfind("profile " + std::to_string(row.ratedWatts) + ' ' + std::string(row.curve) + ' ', 0),
+            0U)
+            << *profile;
+        // The efficiency is that curve's, for the mains voltage that this supply reports.
+        const auto path = QFileInfo(QStringLiteral(ZPSG_PROGRAM)).path() + QStringLiteral("/BOX/") +
+                          QString::fromStdString(std::string(row.curve)) + QStringLiteral(".ini");
+        QString why;
+        const auto curve = power::readCurveFile(path, why);
+        ASSERT_TRUE(curve) << why.toStdString();
+        const auto band = power::curveBand(*curve, QStringLiteral("AC115"), why);
+        ASSERT_TRUE(band) << why.toStdString();
+        const auto entry =
+            std::min<std::size_t>(static_cast<std::size_t>(told_.outputWatts() / 10.0), band->size() - 1);
+        EXPECT_NEAR(reading()[QStringLiteral("EFF")].toDouble(), static_cast<double>(band->at(entry)), 1e-4);
+        end();
+        supply_.unplug();
+    }
+    startTalkative("CVA-0750-G");
+    const auto line = program_->readLineWith("{", kPatience);
+    ASSERT_TRUE(line);
+    const auto shown = QJsonDocument::fromJson(QByteArray::fromStdString(*line)).object();
+    EXPECT_EQ(shown[QStringLiteral("FanSpeed")].toDouble(), told_.fanRpm);
+    EXPECT_TRUE(shown[QStringLiteral("EFF")].isNull());
     end();
 }
 

@@ -123,7 +123,7 @@ TEST_F(UhidSupplyTest, RawBlocksCarryModelAndSerialNumber) {
         std::uint8_t id;
         std::string text;
     };
-    for (const Row &row : {Row{0x11, "CVD-1000-DUO"}, Row{0x12, "SN-4711"}}) {
+    for (const Row &row : {Row{0x11, "CVX-1000-D"}, Row{0x12, "SN-4711"}}) {
         SCOPED_TRACE(row.text);
         std::array<std::uint8_t, 33> block{row.id};
         ASSERT_EQ(hid_get_input_report(device.get(), block.data(), block.size()),
