@@ -67,7 +67,7 @@ void Settings::keepIfDamaged(SettingsFile file) const {
     const QString name = path(file);
     QSettings parsed(name, QSettings::IniFormat);
     parsed.setIniCodec(kIniCodec); // what is parsed here is kept for later readers
-    parsed.allKeys(); // sections are parsed when they are first looked at
+    parsed.allKeys();              // sections are parsed when they are first looked at
     if (parsed.status() != QSettings::FormatError) {
         return;
     }

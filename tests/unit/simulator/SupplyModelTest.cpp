@@ -63,9 +63,8 @@ TEST(SupplyModel, KeepsFanModeSpeedAndLights) {
 }
 
 TEST(SupplyModel, TakesTheRatingFromItsName) {
-    const std::map<std::string, double> ratings{{"CVX-1000-D", 1000}, {"CVG0850", 850},
-                                                {"CV-08-50-G", 850},    {"AX1600i", 1600},
-                                                {"NoNumber", 1000},     {"", 1000}};
+    const std::map<std::string, double> ratings{{"CVX-1000-D", 1000}, {"CVG0850", 850},   {"CV-08-50-G", 850},
+                                                {"AX1600i", 1600},    {"NoNumber", 1000}, {"", 1000}};
     for (const auto &[name, watts] : ratings) {
         EXPECT_EQ(SupplyModel(name).ratedWatts(), watts) << name;
     }
