@@ -105,11 +105,13 @@ bool Settings::write(std::initializer_list<std::pair<Setting, QVariant>> values)
         unwritten_[id] = fitted(row(id), value);
     }
     const bool written = storage::changeIniFile(path(where), [this, where](QSettings &file) {
+        file.setIniCodec(kIniCodec);
         for (auto kept = unwritten_.constBegin(); kept != unwritten_.constEnd(); ++kept) {
             if (row(kept.key()).file == where) {
                 file.setValue(keyOf(row(kept.key())), *kept);
             }
         }
+        return true;
     });
     if (!written) {
         if (!std::exchange(warned_[where], true)) {

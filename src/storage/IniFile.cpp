@@ -24,10 +24,11 @@ bool isWhole(const QString &path, int keys) {
     return found == keys && (text.isEmpty() || text.endsWith('\n'));
 }
 
-bool writeAll(const QString &path, const std::function<void(QSettings &)> &change) {
+bool writeAll(const QString &path, const std::function<bool(QSettings &)> &change) {
     QSettings file(path, QSettings::IniFormat);
-    file.setIniCodec("UTF-8");
-    change(file);
+    if (!change(file)) {
+        return false;
+    }
     file.sync();
     return file.status() != QSettings::AccessError && isWhole(path, file.allKeys().size());
 }
@@ -42,9 +43,11 @@ void makeNewer(const QString &path, const QDateTime &than) {
 
 } // namespace
 
-bool changeIniFile(const QString &path, const std::function<void(QSettings &)> &change) {
+bool changeIniFile(const QString &path, const std::function<bool(QSettings &)> &change) {
     const QString draft = path + QStringLiteral(".new");
-    QFile::remove(draft); // of a run that was killed
+    // What a run that was killed left: the facility would wait half a minute for its lock.
+    QFile::remove(draft);
+    QFile::remove(draft + QStringLiteral(".lock"));
     const QDateTime before = QFileInfo(path).lastModified();
     if (QFile::exists(path) && !QFile::copy(path, draft)) {
         QFile::remove(draft);

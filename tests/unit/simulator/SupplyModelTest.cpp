@@ -29,7 +29,7 @@ Bytes head(SupplyModel &model, std::initializer_list<std::uint8_t> payload, std:
 TEST(SupplyModel, AnswersEveryKnownReportAndNoOther) {
     SupplyModel model("CVX-1000-D", "AB12");
     EXPECT_THAT(head(model, {0xFE, 0x31}), ElementsAre(0xFE, 0x31, 0, 0));
-    EXPECT_THAT(head(model, {0x31, 0x3D}, 6), ElementsAre(0x31, 0x3D, 'C', 'V', 'D', '-'));
+    EXPECT_THAT(head(model, {0x31, 0x3D}, 6), ElementsAre(0x31, 0x3D, 'C', 'V', 'X', '-'));
     EXPECT_THAT(head(model, {0x31, 0x3E}, 7), ElementsAre(0x31, 0x3E, 'A', 'B', '1', '2', 0));
     EXPECT_THAT(head(model, {0x30, 0x43, 0x01}, 2), ElementsAre(0x30, 0x43));
     for (const auto &[first, second] :

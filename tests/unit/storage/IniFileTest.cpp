@@ -19,8 +19,12 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
     }
 
-    bool put(const QString &key, const QVariant &value) const {
-        return changeIniFile(path, [&](QSettings &file) { file.setValue(key, value); });
+    [[nodiscard]] bool put(const QString &key, const QVariant &value) const {
+        return changeIniFile(path, [&](QSettings &file) {
+            file.setIniCodec("UTF-8");
+            file.setValue(key, value);
+            return true;
+        });
     }
 
     [[nodiscard]] QVariant get(const QString &key) const {
@@ -63,8 +67,10 @@ TEST_F(IniFileTest, CleansUpAfterARunThatWasKilledAndSaysWhereItCannotWrite) {
     leftOver.close();
     ASSERT_TRUE(put(QStringLiteral("Group/whole"), 1));
     EXPECT_FALSE(get(QStringLiteral("Group/half")).isValid());
-    EXPECT_FALSE(changeIniFile(path + QStringLiteral("/below.ini"),
-                               [](QSettings &file) { file.setValue(QStringLiteral("a"), 1); }));
+    EXPECT_FALSE(changeIniFile(path + QStringLiteral("/below.ini"), [](QSettings &file) {
+        file.setValue(QStringLiteral("a"), 1);
+        return true;
+    }));
 }
 
 } // namespace
