@@ -1,0 +1,3 @@
+#include "cloud/Logging.h"
+
+Q_LOGGING_CATEGORY(lcCloud, "zpsg.cloud", QtInfoMsg)
