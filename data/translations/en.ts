@@ -15,6 +15,14 @@
         <source></source>
         <translation>Exit</translation>
     </message>
+    <message id="TRAYICON_NOT_RECORDED">
+        <source></source>
+        <translation>Readings can't be recorded</translation>
+    </message>
+    <message id="TRAYICON_NOT_RECORDED_HINT">
+        <source></source>
+        <translation>The disk takes no more. The minutes are kept and written as soon as there is room.</translation>
+    </message>
     <message id="MAIN_STR_MINIMISE">
         <source></source>
         <translation>Minimise</translation>
@@ -378,6 +386,283 @@
     <message id="MAIN_STR_HEAT_LOSS">
         <source></source>
         <translation>Heat loss</translation>
+    </message>
+    <message id="NAV_HISTORY">
+        <source></source>
+        <translation>History</translation>
+    </message>
+    <message id="HISTORY_PAGE_TITLE">
+        <source></source>
+        <translation>History</translation>
+    </message>
+    <message id="HISTORY_BACK">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="HISTORY_FORWARD">
+        <source></source>
+        <translation>Forward</translation>
+    </message>
+    <message id="HISTORY_TODAY">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="HISTORY_SPAN">
+        <source></source>
+        <translation>Span</translation>
+    </message>
+    <message id="HISTORY_WEEK">
+        <source></source>
+        <translation>Week</translation>
+    </message>
+    <message id="HISTORY_MONTH">
+        <source></source>
+        <translation>Month</translation>
+    </message>
+    <message id="HISTORY_YEAR">
+        <source></source>
+        <translation>Year</translation>
+    </message>
+    <message id="HISTORY_RANGE">
+        <source></source>
+        <translation>Range</translation>
+    </message>
+    <message id="HISTORY_FROM">
+        <source></source>
+        <translation>From</translation>
+    </message>
+    <message id="HISTORY_TO">
+        <source></source>
+        <translation>To</translation>
+    </message>
+    <message id="HISTORY_FROM_TO">
+        <source></source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message id="HISTORY_SUMMARY">
+        <source></source>
+        <translation>Sums of the range</translation>
+    </message>
+    <message id="HISTORY_MEASURE">
+        <source></source>
+        <translation>What the bars show</translation>
+    </message>
+    <message id="HISTORY_ENERGY">
+        <source></source>
+        <translation>Energy</translation>
+    </message>
+    <message id="HISTORY_MEAN_POWER">
+        <source></source>
+        <translation>Mean power</translation>
+    </message>
+    <message id="HISTORY_ENERGY_DAYS">
+        <source></source>
+        <translation>Energy by day (kWh)</translation>
+    </message>
+    <message id="HISTORY_POWER_DAYS">
+        <source></source>
+        <translation>Mean power by day (W)</translation>
+    </message>
+    <message id="HISTORY_ENERGY_MONTHS">
+        <source></source>
+        <translation>Energy by month (kWh)</translation>
+    </message>
+    <message id="HISTORY_POWER_MONTHS">
+        <source></source>
+        <translation>Mean power by month (W)</translation>
+    </message>
+    <message id="HISTORY_BY_MONTH">
+        <source></source>
+        <translation>Days would be too thin to see: each bar is a month</translation>
+    </message>
+    <message id="HISTORY_DAYS_EXPLAINED">
+        <source></source>
+        <translation>Click a bar to see its minutes below; a bar of a month opens that month. Arrow keys go from bar to bar, Enter opens one, Page Up and Page Down go back and forward.</translation>
+    </message>
+    <message id="HISTORY_HIGHEST_DAY">
+        <source></source>
+        <translation>Highest day</translation>
+    </message>
+    <message id="HISTORY_LOWEST_DAY">
+        <source></source>
+        <translation>Lowest day</translation>
+    </message>
+    <message id="HISTORY_LONG_TERM">
+        <source></source>
+        <translation>All-time mean</translation>
+    </message>
+    <message id="HISTORY_AT_EFFICIENCY">
+        <source></source>
+        <translation>at %1 efficiency</translation>
+    </message>
+    <message id="HISTORY_IN_TIME">
+        <source></source>
+        <translation>in %1</translation>
+    </message>
+    <message id="HISTORY_SO_FAR">
+        <source></source>
+        <translation>%1, so far</translation>
+    </message>
+    <message id="HISTORY_RECORDED">
+        <source></source>
+        <translation>Recorded</translation>
+    </message>
+    <message id="HISTORY_RECORDED_TIME">
+        <source></source>
+        <translation>%1 recorded</translation>
+    </message>
+    <message id="HISTORY_NOTHING_RECORDED">
+        <source></source>
+        <translation>Nothing recorded</translation>
+    </message>
+    <message id="HISTORY_MINUTES">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="HISTORY_HOURS">
+        <source></source>
+        <translation>%1 h</translation>
+    </message>
+    <message id="HISTORY_HOURS_MINUTES">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="HISTORY_DAY">
+        <source></source>
+        <translation>Minutes of the day</translation>
+    </message>
+    <message id="HISTORY_WHOLE_DAY">
+        <source></source>
+        <translation>Whole day</translation>
+    </message>
+    <message id="HISTORY_DAY_EXPLAINED">
+        <source></source>
+        <translation>Turn the wheel to zoom, drag to move, double-click to see the whole day again. Keys: + and − zoom, arrows move, Shift and arrows go from minute to minute, Home shows the whole day.</translation>
+    </message>
+    <message id="HISTORY_CHIPS_HINT">
+        <source></source>
+        <translation>One or two can be shown at a time, each with an axis of its own.</translation>
+    </message>
+    <message id="HISTORY_POWER">
+        <source></source>
+        <translation>Power</translation>
+    </message>
+    <message id="HISTORY_RAILS">
+        <source></source>
+        <translation>Rails</translation>
+    </message>
+    <message id="HISTORY_CURRENTS">
+        <source></source>
+        <translation>Currents</translation>
+    </message>
+    <message id="HISTORY_TEMPERATURE">
+        <source></source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="HISTORY_FAN">
+        <source></source>
+        <translation>Fan</translation>
+    </message>
+    <message id="HISTORY_EFFICIENCY">
+        <source></source>
+        <translation>Efficiency</translation>
+    </message>
+    <message id="HISTORY_RAILS_PLOTTED">
+        <source></source>
+        <translation>Rails by how far they are off their nominal voltage</translation>
+    </message>
+    <message id="HISTORY_STATISTICS">
+        <source></source>
+        <translation>Least, mean and greatest value in view</translation>
+    </message>
+    <message id="HISTORY_LEAST">
+        <source></source>
+        <translation>min</translation>
+    </message>
+    <message id="HISTORY_MEAN">
+        <source></source>
+        <translation>mean</translation>
+    </message>
+    <message id="HISTORY_MOST">
+        <source></source>
+        <translation>max</translation>
+    </message>
+    <message id="HISTORY_LOADING">
+        <source></source>
+        <translation>Loading …</translation>
+    </message>
+    <message id="HISTORY_EMPTY">
+        <source></source>
+        <translation>Nothing recorded yet.
+While the supply is connected every minute is recorded, and today’s bar appears here within minutes.</translation>
+    </message>
+    <message id="HISTORY_EMPTY_RANGE">
+        <source></source>
+        <translation>Nothing was recorded in this range.</translation>
+    </message>
+    <message id="HISTORY_EMPTY_DAY">
+        <source></source>
+        <translation>There are no minutes of this day.</translation>
+    </message>
+    <message id="HISTORY_NO_DAY">
+        <source></source>
+        <translation>The minutes of the chosen day will appear here.</translation>
+    </message>
+    <message id="HISTORY_EXPORT">
+        <source></source>
+        <translation>Export</translation>
+    </message>
+    <message id="HISTORY_EXPORT_WHAT">
+        <source></source>
+        <translation>Export</translation>
+    </message>
+    <message id="HISTORY_EXPORT_DAYS">
+        <source></source>
+        <translation>Days</translation>
+    </message>
+    <message id="HISTORY_EXPORT_MINUTES">
+        <source></source>
+        <translation>Minutes</translation>
+    </message>
+    <message id="HISTORY_EXPORT_FILE">
+        <source></source>
+        <translation>Choose file …</translation>
+    </message>
+    <message id="HISTORY_EXPORT_TITLE">
+        <source></source>
+        <translation>Export the history</translation>
+    </message>
+    <message id="HISTORY_EXPORT_FILTER">
+        <source></source>
+        <translation>Comma-separated values (*.csv)</translation>
+    </message>
+    <message id="HISTORY_EXPORTING">
+        <source></source>
+        <translation>Exporting, %1 %</translation>
+    </message>
+    <message id="HISTORY_CANCEL">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="HISTORY_CLOSE">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="HISTORY_EXPORT_DONE">
+        <source></source>
+        <translation>%1 lines written</translation>
+    </message>
+    <message id="HISTORY_EXPORT_DONE_LOST">
+        <source></source>
+        <translation>%1 lines written; %2 rows could not be read</translation>
+    </message>
+    <message id="HISTORY_EXPORT_CANCELLED">
+        <source></source>
+        <translation>Export cancelled; no file was written</translation>
+    </message>
+    <message id="HISTORY_EXPORT_FAILED">
+        <source></source>
+        <translation>Not exported: %1</translation>
     </message>
 </context>
 </TS>

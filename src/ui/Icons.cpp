@@ -69,6 +69,13 @@ void paintBell(QPainter &painter) {
     painter.drawArc(QRectF(9.5, 16.5, 5, 5), 205 * 16, 130 * 16);
 }
 
+void paintBars(QPainter &painter) {
+    painter.drawLine(QPointF(3, 20.5), QPointF(21, 20.5));
+    painter.drawRect(QRectF(4.5, 12, 3.4, 8.5));
+    painter.drawRect(QRectF(10.3, 4, 3.4, 16.5));
+    painter.drawRect(QRectF(16.1, 8.5, 3.4, 12));
+}
+
 } // namespace
 
 void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &colour) {
@@ -109,6 +116,9 @@ void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &c
         break;
     case Icon::Bell:
         paintBell(painter);
+        break;
+    case Icon::Bars:
+        paintBars(painter);
         break;
     case Icon::Tick:
         painter.drawPolyline(QPolygonF({QPointF(3.5, 12.5), QPointF(9.5, 18.5), QPointF(20.5, 6)}));

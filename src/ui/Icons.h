@@ -18,6 +18,7 @@ enum class Icon {
     Gauge, ///< a dial with its needle
     Bell,
     Tick,
+    Bars, ///< a chart of three bars
 };
 
 /// Draws the sign centred in `rect`, as large as its shorter side.

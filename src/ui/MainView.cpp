@@ -3,6 +3,7 @@
 #include "ui/AlarmBanner.h"
 #include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
+#include "ui/HistoryPage.h"
 #include "ui/NavigationRail.h"
 #include "ui/Style.h"
 #include "ui/TitleBar.h"
@@ -19,6 +20,7 @@ namespace {
 NavigationRail *makeNavigation(QWidget *parent) {
     auto *rail = new NavigationRail(parent);
     rail->addPage(Icon::Gauge, QT_TRID_NOOP("NAV_DASHBOARD"));
+    rail->addPage(Icon::Bars, QT_TRID_NOOP("NAV_HISTORY"));
     rail->addPage(Icon::Bell, QT_TRID_NOOP("NAV_ALARMS"));
     return rail;
 }
@@ -33,6 +35,7 @@ MainView::MainView(QWidget *parent)
     , pages_(new QStackedWidget(this))
     , alarmBanner_(new AlarmBanner(pages_))
     , dashboard_(new DashboardPage(pages_))
+    , history_(new HistoryPage(pages_))
     , alarms_(new AlarmsPage(pages_)) {
     setObjectName(QStringLiteral("centralMain"));
     setAttribute(Qt::WA_StyledBackground);
@@ -56,6 +59,7 @@ MainView::MainView(QWidget *parent)
 
 void MainView::layOut() {
     pages_->addWidget(dashboard_);
+    pages_->addWidget(history_);
     pages_->addWidget(alarms_);
     dashboard_->setAlarmBanner(alarmBanner_);
 

@@ -10,6 +10,7 @@ namespace zpsg::ui {
 class AlarmBanner;
 class AlarmsPage;
 class DashboardPage;
+class HistoryPage;
 class NavigationRail;
 class TitleBar;
 
@@ -18,7 +19,7 @@ class MainView : public QWidget {
 
 public:
     /// In the order of the rail.
-    enum class Page { Dashboard, Alarms };
+    enum class Page { Dashboard, History, Alarms };
     Q_ENUM(Page)
 
     /// The least size at which every text has room.
@@ -30,6 +31,7 @@ public:
     [[nodiscard]] TitleBar *titleBar() const { return titleBar_; }
     [[nodiscard]] NavigationRail *navigation() const { return navigation_; }
     [[nodiscard]] DashboardPage *dashboard() const { return dashboard_; }
+    [[nodiscard]] HistoryPage *history() const { return history_; }
     [[nodiscard]] AlarmsPage *alarms() const { return alarms_; }
     /// Stands on the dashboard; the navigation counts what it shows.
     [[nodiscard]] AlarmBanner *alarmBanner() const { return alarmBanner_; }
@@ -58,6 +60,7 @@ private:
     QStackedWidget *pages_;
     AlarmBanner *alarmBanner_;
     DashboardPage *dashboard_;
+    HistoryPage *history_;
     AlarmsPage *alarms_;
 };
 

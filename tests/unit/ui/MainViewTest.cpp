@@ -5,6 +5,7 @@
 #include "ui/AlarmsPage.h"
 #include "ui/ArcGauge.h"
 #include "ui/DashboardPage.h"
+#include "ui/HistoryPage.h"
 #include "ui/NavigationRail.h"
 #include "ui/TitleBar.h"
 #include "ui/WindowFrame.h"
@@ -104,9 +105,12 @@ TEST_F(MainViewTest, NothingIsCutAtAnySize) {
             expectFit(" state " + std::to_string(static_cast<int>(c.state)) + " alarms " +
                       std::to_string(c.alarms) + " width " + std::to_string(size.width()));
         }
-        view_.showPage(MainView::Page::Alarms);
-        settle();
-        expectFit(" on the alarms page, width " + std::to_string(size.width()));
+        for (const MainView::Page page : {MainView::Page::History, MainView::Page::Alarms}) {
+            view_.showPage(page);
+            settle();
+            expectFit(" on page " + std::to_string(static_cast<int>(page)) + ", width " +
+                      std::to_string(size.width()));
+        }
         view_.showPage(MainView::Page::Dashboard);
     }
 }
@@ -157,18 +161,22 @@ TEST_F(MainViewTest, AllWaysLeadToThePages) {
     logButton->setFocus();
     logButton->click();
     EXPECT_EQ(view->page(), MainView::Page::Alarms);
-    EXPECT_EQ(view->navigation()->current(), 1);
+    EXPECT_EQ(view->navigation()->current(), 2);
     EXPECT_TRUE(table->isVisible());
     EXPECT_TRUE(table->isEnabled()) << "the log can be read without a supply";
     EXPECT_EQ(QApplication::focusWidget(), view) << "the page comes with no control marked";
     QTest::keyClick(view, Qt::Key_1, Qt::ControlModifier);
     EXPECT_TRUE(view->dashboard()->isVisible());
     view->showPage(MainView::Page::Dashboard);
-    EXPECT_EQ(shown, (std::vector{MainView::Page::Alarms, MainView::Page::Dashboard}));
+    QTest::keyClick(view, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(view->history()->isVisible());
+    EXPECT_TRUE(view->history()->isEnabled()) << "what was recorded can be seen without a supply";
+    EXPECT_EQ(shown,
+              (std::vector{MainView::Page::Alarms, MainView::Page::Dashboard, MainView::Page::History}));
 }
 
 TEST_F(MainViewTest, TheNavigationCountsTheAlarmsThatHold) {
-    const auto *button = view_.navigation()->findChildren<QAbstractButton *>().at(1);
+    const auto *button = view_.navigation()->findChildren<QAbstractButton *>().at(2);
     const QString quiet = button->accessibleName();
     alarm(view_, 3);
     EXPECT_TRUE(button->accessibleName().contains(QLatin1Char('3')));
