@@ -18,7 +18,7 @@ fi
 arguments=("$@")
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
     case " $* " in
-    *' --headless '* | *' --help '* | *' -h '* | *' --version '* | *' --list-models '*) ;;
+    *' --headless '* | *' --help '* | *' -h '* | *' --version '* | *' --list-models '* | *' export '*) ;;
     *)
         echo "There is no display, so the window is left out: readings follow (end with Ctrl+C)."
         arguments+=(--headless)

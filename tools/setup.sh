@@ -4,6 +4,7 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqwt-qt5-dev
     libhidapi-dev libudev-dev libsodium-dev
+    libqt5sql5-sqlite sqlite3 libzip-dev zlib1g-dev
     librsvg2-bin fonts-inter fonts-dejavu-core
 )
 test_packages=(
@@ -12,7 +13,7 @@ test_packages=(
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick
     qemu-system-x86 busybox-static cpio kmod xz-utils
-    strace
+    strace python3 openssl
 )
 
 # Installs those of the named packages that are not there.

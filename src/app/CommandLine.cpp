@@ -9,6 +9,11 @@ namespace {
 /// What fits into the supply's reply, and nothing that would need quoting in it.
 constexpr int kLongestModelText = 62;
 
+/// Three days in a minute.
+constexpr int kUsualFastClock = 4320;
+/// A minute in six milliseconds: faster than most disks take a row.
+constexpr int kFastestClock = 10000;
+
 bool isModelText(const QString &text) {
     return !text.isEmpty() && text.size() <= kLongestModelText &&
            std::all_of(text.begin(), text.end(),
@@ -32,6 +37,15 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
                 error = QStringLiteral("--demo=%1: a model is 1 to %2 printable characters without blanks")
                             .arg(value)
                             .arg(kLongestModelText);
+                return std::nullopt;
+            }
+        } else if (name == QLatin1String("--fast-clock")) {
+            bool number = false;
+            line.fastClock = hasValue ? value.toInt(&number) : kUsualFastClock;
+            if (hasValue && (!number || line.fastClock < 1 || line.fastClock > kFastestClock)) {
+                error = QStringLiteral("--fast-clock=%1: how many times faster is 1 to %2")
+                            .arg(value)
+                            .arg(kFastestClock);
                 return std::nullopt;
             }
         } else if (name == QLatin1String("--data-dir")) {
@@ -64,6 +78,10 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
         error = QStringLiteral("--json goes with --headless");
         return std::nullopt;
     }
+    if (line.fastClock > 0 && (!line.demo || line.headless)) {
+        error = QStringLiteral("--fast-clock goes with --demo, in a window");
+        return std::nullopt;
+    }
     return line;
 }
 
@@ -84,16 +102,21 @@ QString modelList() {
 
 QString helpText() {
     return QStringLiteral(R"(Usage: zpsg [open] [options]
+       zpsg export --from DATE --to DATE --minutes|--days [--output FILE]
 
 Monitors and controls a ZPS G power supply.
 
   open              start, then hide in the tray (what the autostart entry does)
   --demo[=MODEL]    run against a simulated supply (default model %1)
+  --fast-clock[=N]  with --demo: time runs N times faster (default 4320, three
+                    days in a minute), from midnight three days ago
   --data-dir DIR    keep settings and records in DIR
   --headless        no window: print a line for each reading, until interrupted
   --json            with --headless: print one JSON object for each reading
   --list-models     print the models with an efficiency curve, tab-separated:
                     position, code, rated watts, curve file, series code
+  export            write the records of a range of days (yyyy-MM-dd) as
+                    comma-separated text: each minute, or a sum for each day
   --version         print the version
   --help            print this text
 

@@ -17,6 +17,7 @@ struct CommandLine {
     bool startHidden = false; ///< the first argument is exactly "open"
     bool demo = false;
     QString demoModel; ///< empty: the default
+    int fastClock = 0; ///< how many times faster than time a demo runs; 0: as fast as time
     std::optional<QString> dataDir;
     bool headless = false;
     bool json = false;

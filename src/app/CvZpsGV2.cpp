@@ -1,6 +1,7 @@
 #include "app/CvZpsGV2.h"
 
 #include "app/DaySettings.h"
+#include "app/HistoryFeed.h"
 #include "app/Logging.h"
 #include "app/ViewFeed.h"
 #include "platform/DeviceAccess.h"
@@ -35,6 +36,9 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
     , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
     , day_(dayStorage(settings_))
+    , recorder_(settings_, paths_.data, paths_.resources, parts.random)
+    , uploader_(settings_, paths_.data)
+    , fastClock_(std::move(parts.fastClock))
     , random_(std::move(parts.random)) {
     readSettings();
     loadLanguage();
@@ -46,6 +50,9 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     readInfo();
     setUpPages();
     startTimers();
+    if (fastClock_) {
+        startFastClock(parts.fastClockFactor);
+    }
     saveData();
     alignAutostart();
     if (!demo_) {
@@ -136,6 +143,7 @@ void CvZpsGV2::createServices() {
     connect(monitor, &psu::SupplyMonitor::reconnectDue, this, &CvZpsGV2::deviceChanged, Qt::QueuedConnection);
     connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::takeSample);
     connect(&alarms_, &Alarms::began, this, &CvZpsGV2::tellAlarm);
+    connect(&recorder_, &Recorder::recordingFailed, this, &CvZpsGV2::tellRecordingFailed);
     deviceWatch_ =
         platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
 }
@@ -145,10 +153,12 @@ void CvZpsGV2::setUpPages() {
     dashboard->setDemo(demo_);
     dashboard->setRemedy(
         QString::fromStdString(platform::deviceAccessRemedy(paths_.resources.toStdString())));
+    new HistoryFeed(
+        recorder_, paths_.data, [this] { return now(); }, *view_->history(), this);
     feed_ = new ViewFeed(supply_, alarms_, day_, settings_, *view_, random_, this);
     view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
-    day_.loadDayProfile(QDate::currentDate());
-    feed_->showDay(QDateTime::currentDateTime());
+    day_.loadDayProfile(now().date());
+    feed_->showDay(now());
     demoInfo();
 }
 
@@ -196,20 +206,47 @@ void CvZpsGV2::alignAutostart() {
 
 void CvZpsGV2::demoInfo() {
     if (monitor().hasReading()) {
-        feed_->takeReading(QDateTime::currentDateTime());
+        feed_->takeReading(now());
     }
 }
 
 void CvZpsGV2::ClockTick() {
-    const auto now = QDateTime::currentDateTime();
-    day_.tick(now);
-    feed_->showDay(now);
+    day_.tick(now());
+    feed_->showDay(now());
+}
+
+void CvZpsGV2::saveData() {
+    // A minute without a fresh reading is a gap and no row.
+    if (monitor().hasReading() && monitor().state() == psu::LinkState::Live) {
+        recorder_.saveData(monitor().record(), monitor().serialText(), now());
+    }
+}
+
+QString CvZpsGV2::serialNumber() const {
+    const auto &monitor = supply_.monitor();
+    return monitor.noSerial() ? settings_.text(Setting::SelfFilledInSerial) : monitor.serialText();
+}
+
+void CvZpsGV2::startFastClock(int factor) {
+    for (auto *timer : findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly)) {
+        timer->stop();
+    }
+    addTimer(60000 / factor, &CvZpsGV2::passFastMinute);
+}
+
+void CvZpsGV2::passFastMinute() {
+    fastClock_->passMinute();
+    readInfo();
+    demoInfo();
+    ClockTick();
+    saveData();
+    getNextDailySettlement();
 }
 
 void CvZpsGV2::takeSample() {
     const auto &record = monitor().record();
     if (record.measured(QStringLiteral("WATTS"))) {
-        day_.addSample(record.text(QStringLiteral("WATTS")), QDateTime::currentDateTime());
+        day_.addSample(record.text(QStringLiteral("WATTS")), now());
     }
 }
 
@@ -217,6 +254,11 @@ void CvZpsGV2::tellAlarm(const psu::AlarmEntry &entry) {
     tray_->showMessage(ui::alarmTitle(entry.kind),
                        ui::alarmValue(entry.kind, entry.value) + QLatin1Char('\n') +
                            ui::alarmAdvice(entry.kind),
+                       QSystemTrayIcon::Warning);
+}
+
+void CvZpsGV2::tellRecordingFailed() {
+    tray_->showMessage(qtTrId("TRAYICON_NOT_RECORDED"), qtTrId("TRAYICON_NOT_RECORDED_HINT"),
                        QSystemTrayIcon::Warning);
 }
 

@@ -5,13 +5,16 @@
 
 #include "app/Alarms.h"
 #include "app/Paths.h"
+#include "app/Recorder.h"
 #include "app/Settings.h"
 #include "app/Supply.h"
+#include "app/Uploader.h"
 #include "platform/Autostart.h"
 #include "platform/DeviceWatch.h"
 #include "platform/WindowRendezvous.h"
 #include "power/DayProfile.h"
 #include "power/Efficiency.h"
+#include "simulator/FastClock.h"
 
 #include <QMainWindow>
 #include <QRandomGenerator>
@@ -41,9 +44,12 @@ struct WindowParts {
     std::unique_ptr<psu::HidBackend> backend;
     bool demo = false; ///< simulated supply: leave the system (autostart, companion) alone
     psu::MonitorTiming timing{};
+    std::shared_ptr<simulator::FastClock> fastClock{}; ///< null: time as it passes
+    int fastClockFactor = 1;
     power::RandomSource random = [] { return QRandomGenerator::global()->generate(); };
 };
 
+class HistoryFeed;
 class ViewFeed;
 
 class CvZpsGV2 : public QMainWindow {
@@ -102,9 +108,9 @@ public slots:
     void settingPageSelect() {}
     void loginFrameEvent() {}
     void logoutFrameEvent() {}
-    void saveData() {}
-    void getNextDailySettlement() {}
-    void checkUploadState() {}
+    void saveData();
+    void getNextDailySettlement() { recorder_.getNextDailySettlement(now()); }
+    void checkUploadState() { uploader_.checkUploadState(serialNumber()); }
     void changeLanguage();
     void resetLanguage();
     void ClockTick();
@@ -199,6 +205,13 @@ private:
     void showMessage(const QString &text);
     void tellAlarm(const psu::AlarmEntry &entry);
     void takeSample();
+    void tellRecordingFailed();
+    void startFastClock(int factor);
+    void passFastMinute();
+    [[nodiscard]] QString serialNumber() const;
+    [[nodiscard]] QDateTime now() const {
+        return fastClock_ ? fastClock_->now() : QDateTime::currentDateTime();
+    }
     void retranslate();
 
     Paths paths_;
@@ -207,6 +220,9 @@ private:
     Supply supply_;
     Alarms alarms_;
     power::DayProfile day_;
+    Recorder recorder_;
+    Uploader uploader_;
+    std::shared_ptr<simulator::FastClock> fastClock_;
     power::RandomSource random_;
     QTranslator english_;
     QTranslator translator_;

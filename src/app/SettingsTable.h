@@ -34,6 +34,11 @@ enum class Setting {
     FanWarning,
     TempWarning,
     TrendView,
+    RecFileNumber,
+    RecFiledayNumber,
+    CloudAddress,
+    AccountKey,
+    UploadedFile,
     DayWatts,
     DayDate,
     SensorsEnabled,
@@ -52,7 +57,8 @@ struct SettingRow {
 };
 
 inline constexpr double kManyMinutes = 1e9; // some 1900 years
-inline constexpr double kManyUnits = 1e12;  // kWh or money
+inline constexpr double kManyFiles = 1e9;
+inline constexpr double kManyUnits = 1e12; // kWh or money
 
 inline constexpr std::array kSettingsTable{
     SettingRow{Setting::FanDuty, SettingsFile::General, "/FanSetting/FanDuty", SettingType::Integer, "0", 0,
@@ -90,6 +96,16 @@ inline constexpr std::array kSettingsTable{
     // the dashboard's lower card: 0 last minutes, 1 today, 2 efficiency
     SettingRow{Setting::TrendView, SettingsFile::General, "/Setting/TrendView", SettingType::Integer, "0", 0,
                2},
+    // the newest record file, and the newest that is settled
+    SettingRow{Setting::RecFileNumber, SettingsFile::General, "/Setting/RecFileNumber", SettingType::Integer,
+               "0", 0, kManyFiles},
+    SettingRow{Setting::RecFiledayNumber, SettingsFile::General, "/Setting/RecFiledayNumber",
+               SettingType::Integer, "0", 0, kManyFiles},
+    // the record service; nothing is sent while it is empty
+    SettingRow{Setting::CloudAddress, SettingsFile::General, "/Cloud/Address", SettingType::Text, ""},
+    SettingRow{Setting::AccountKey, SettingsFile::General, "/Cloud/AccountKey", SettingType::Text, ""},
+    SettingRow{Setting::UploadedFile, SettingsFile::General, "/Cloud/UploadedFile", SettingType::Integer, "0",
+               0, kManyFiles},
     // watts, a text for each four minutes from 06:00
     SettingRow{Setting::DayWatts, SettingsFile::Clock, "/TimeData/WATTSData", SettingType::List, ""},
     SettingRow{Setting::DayDate, SettingsFile::Clock, "/TimeData/Date", SettingType::Text, ""}, // MM-dd

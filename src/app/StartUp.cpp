@@ -78,7 +78,11 @@ int runWithWindow(const CommandLine &line, const Paths &paths) {
 
     QApplication::setQuitOnLastWindowClosed(false);
     platform::onExitRequest([] { QCoreApplication::quit(); });
-    CvZpsGV2 window({paths, makeBackend(line), line.demo});
+    const auto clock = makeFastClock(line);
+    WindowParts parts{paths, makeBackend(line, clock), line.demo};
+    parts.fastClock = clock;
+    parts.fastClockFactor = line.fastClock;
+    CvZpsGV2 window(std::move(parts));
     if (lcApp().isDebugEnabled()) {
         new FirstPaint(window); // the window owns it
     }

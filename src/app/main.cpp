@@ -1,5 +1,6 @@
 #include "app/Backend.h"
 #include "app/CommandLine.h"
+#include "app/ExportCommand.h"
 #include "app/Headless.h"
 #include "app/Paths.h"
 #include "app/StartUp.h"
@@ -63,11 +64,40 @@ void name(const Application &) {
     Application::setApplicationVersion(QStringLiteral(ZPSG_VERSION));
 }
 
+int runExportCommand(int argc, char **argv, const QStringList &arguments) {
+    QString error;
+    const auto command = app::parseExportCommand(arguments, error);
+    if (!command) {
+        return wrongUse(error);
+    }
+    if (command->showHelp) {
+        std::fputs(app::helpText().toUtf8().constData(), stdout);
+        return app::kExitOk;
+    }
+    const QCoreApplication application(argc, argv);
+    name(application);
+    const auto paths =
+        app::findPaths(QCoreApplication::applicationFilePath(), command->dataDir, command->demo, error);
+    if (!paths) {
+        return wrongUse(error);
+    }
+    bool interrupted = false;
+    platform::onExitRequest([&interrupted] { interrupted = true; });
+    return app::runExport(*command, paths->data, stdout, stderr, [&interrupted] {
+        QCoreApplication::processEvents();
+        return interrupted;
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
+    const QStringList arguments = argumentsAfterName(argc, argv);
+    if (!arguments.isEmpty() && arguments.first() == QLatin1String("export")) {
+        return runExportCommand(argc, argv, arguments.mid(1));
+    }
     QString error;
-    const auto line = app::parseCommandLine(argumentsAfterName(argc, argv), error);
+    const auto line = app::parseCommandLine(arguments, error);
     if (!line) {
         return wrongUse(error);
     }

@@ -94,6 +94,23 @@ TEST_F(ControllerTest, FirstReadingIsThereWhenTheWindowIs) {
     }
 }
 
+TEST_F(ControllerTest, RecordsFreshReadingsOnly) {
+    const QString file = records::recordPath(dir.path(), 1);
+    const auto window = make();
+    window->saveData();
+    EXPECT_FALSE(QFile::exists(file)) << "nothing was ever read";
+    bus->plug(simulator::SupplyModel("CVX-1000-D"));
+    window->windowMessage({platform::kDeviceChange, 0, 0});
+    window->readInfo();
+    window->saveData();
+    window->saveData();
+    EXPECT_EQ(records::readFile(file).rows.size(), 2);
+    bus->unplug();
+    window->windowMessage({platform::kDeviceChange, 0, 0});
+    window->saveData();
+    EXPECT_EQ(records::readFile(file).rows.size(), 2) << "a gap is no use";
+}
+
 TEST_F(ControllerTest, FollowsASupplyThatComesAndGoes) {
     const auto window = make();
     EXPECT_FALSE(window->monitor().hasReading());
