@@ -21,14 +21,14 @@ bool Supply::identifyModel() {
     if (!monitor_.openAtStart()) {
         return false;
     }
-    monitor_.readIdentity();
+    monitor_.readModelText();
     return identified_ || monitor_.rawPathPresent();
 }
 
 bool Supply::connectPsu() {
     const bool opened = monitor_.connectPsu();
     if (opened && !monitor_.identityKnown()) {
-        monitor_.readIdentity();
+        monitor_.readModelText();
     }
     return opened;
 }

@@ -73,23 +73,7 @@ void SupplyMonitor::settle(const Connected &result, bool atStart) {
     setState(LinkState::Live);
 }
 
-QString SupplyMonitor::readModelText() {
-    if (path_ == Path::Raw) {
-        return readRawBlockA() ? modelText_ : QString();
-    }
-    if (path_ != Path::Main) {
-        return {};
-    }
-    const auto job = question(kModelTextCommand);
-    link_.submit(job);
-    if (!link_.wait(job, timing_.patience) || job->replies().empty()) {
-        return {};
-    }
-    modelText_ = QString::fromLatin1(replyText(job->replies().front()).c_str());
-    return modelText_;
-}
-
-bool SupplyMonitor::readIdentity() { return askIdentity(timing_.patience); }
+QString SupplyMonitor::readModelText() { return askIdentity(timing_.patience) ? modelText_ : QString(); }
 
 bool SupplyMonitor::askIdentity(std::chrono::milliseconds patience) {
     if (path_ == Path::None) {

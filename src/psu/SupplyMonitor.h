@@ -49,10 +49,9 @@ public:
     /// One telemetry pass. Returns at once when no supply is connected or the last pass is still running.
     Q_INVOKABLE void readInfo();
 
-    /// Asks for the serial number, then for the model text (the raw device's blocks B and A). True when both
-    /// are known; an answer that takes longer than the caller may be held brings identityTaken() later.
-    bool readIdentity();
-    /// The model text alone, once more; empty when there is no answer. Bytes are Latin-1.
+    /// Asks for the serial number, then for the model text (the raw device's blocks B and A), and gives the
+    /// model text: Latin-1 characters, empty when there is no answer. One that takes longer than the caller
+    /// may be held brings identityTaken() later.
     QString readModelText();
     /// Runs for each sample of the main path after it was decoded and before anybody is told of it: what is
     /// derived from it belongs into the record. Set before the first pass.

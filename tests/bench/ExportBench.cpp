@@ -6,7 +6,6 @@
 #include "records/RangeExport.h"
 #include "records/RecordFile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -164,10 +163,3 @@ void rowsOfADay(benchmark::State &state) {
 BENCHMARK(rowsOfADay)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -5,7 +5,6 @@
 #include "records/RecordStore.h"
 #include "records/Settlement.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -125,10 +124,3 @@ void askTenYears(benchmark::State &state) {
 BENCHMARK(askTenYears)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,7 +1,6 @@
 // Wall time from the start of the process to the first reading painted, with --demo and the offscreen
 // platform. The program says so in a debug line; a run is a whole process.
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -45,10 +44,3 @@ BENCHMARK(startToFirstReading)
     ->Repetitions(21);
 
 } // namespace
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -4,8 +4,6 @@
 #include "power/EfficiencyTable.h"
 #include "psu/AlarmSupervisor.h"
 
-#include <QCoreApplication>
-
 #include <benchmark/benchmark.h>
 
 using namespace zpsg;
@@ -61,10 +59,3 @@ void lookEfficiencyUp(benchmark::State &state) {
 BENCHMARK(lookEfficiencyUp)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

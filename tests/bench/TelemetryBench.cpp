@@ -5,8 +5,6 @@
 #include "psu/TelemetryDecoder.h"
 #include "simulator/SimulatedBus.h"
 
-#include <QCoreApplication>
-
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -63,10 +61,3 @@ void decodeOneReply(benchmark::State &state) {
 BENCHMARK(decodeOneReply);
 
 } // namespace
-
-int main(int argc, char **argv) {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

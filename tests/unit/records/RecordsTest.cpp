@@ -163,10 +163,12 @@ TEST_F(RecordsTest, SettlesEachRowOnItsOwnDay) {
     const QDateTime late(kNoon.date(), QTime(23, 59));
     addFile({row(kNoon, 60.0F), row(late, 120.0F), row(late.addSecs(60), 600.0F)});
     addFile({});
+    addFile({row(kNoon)});
+    QFile::remove(path(3)); // a number without a file
     addFile({row(late.addSecs(120), 60.0F), row(late, 60.0F), // the clock was set back
              row(late.addDays(3), 60.0F), QStringLiteral("no row")});
     settleAll();
-    EXPECT_EQ(settledFile, 3);
+    EXPECT_EQ(settledFile, 4);
     const auto days = totals();
     ASSERT_EQ(days.size(), 3U);
     EXPECT_EQ(days[0].date, kNoon.date());
