@@ -63,12 +63,13 @@ void DayBars::drawBars(QPainter &painter, const QwtScaleMap &xMap, const QwtScal
 
     QVector<QRectF> bars;
     QVector<QRectF> edges;
-    std::optional<qreal> before; ///< top of the bar to the left
+    qreal before = 0.0; // top of the bar to the left
+    bool touches = false;
     bars.reserve(static_cast<int>(watts_.size()));
     edges.reserve(static_cast<int>(watts_.size()));
     for (std::size_t i = 0; i < watts_.size(); ++i) {
         if (!(watts_[i] > 0.0F)) {
-            before.reset();
+            touches = false;
             continue;
         }
         const qreal left = snapped(xMap.transform(static_cast<double>(i)), ratio);
@@ -76,11 +77,12 @@ void DayBars::drawBars(QPainter &painter, const QwtScaleMap &xMap, const QwtScal
         const qreal top = std::min(snapped(yMap.transform(watts_[i]), ratio), ground - edge);
         bars << QRectF(left, top, right - left, ground - top);
         edges << QRectF(left, top, right - left, edge);
-        if (gap == 0.0 && before) {
+        if (gap == 0.0 && touches) {
             // Bars that touch have one outline.
-            edges << QRectF(left, std::min(*before, top), 1.0 / ratio, std::abs(*before - top) + edge);
+            edges << QRectF(left, std::min(before, top), 1.0 / ratio, std::abs(before - top) + edge);
         }
         before = top;
+        touches = true;
     }
     const QRgb deep = muted_ ? colour::kStale : colour::kAccentDeep;
     QLinearGradient fill(0.0, canvas.top(), 0.0, ground);
