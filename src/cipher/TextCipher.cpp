@@ -14,7 +14,8 @@ using Key = std::array<unsigned char, crypto_aead_xchacha20poly1305_ietf_KEYBYTE
 static_assert(Key{}.size() >= crypto_generichash_KEYBYTES_MIN &&
               Key{}.size() <= crypto_generichash_KEYBYTES_MAX);
 
-// Drawn at random once. Changing the first makes every file written before unreadable; docs/files.md has both.
+// Drawn at random once. Changing the first makes every file written before unreadable; docs/files.md has
+// both.
 constexpr Key kTextKey{0x34, 0xaa, 0x37, 0x7e, 0x50, 0x8b, 0x28, 0xba, 0x88, 0x13, 0x93,
                        0x87, 0x6b, 0x53, 0xa0, 0x0b, 0x79, 0x40, 0x66, 0x1f, 0x95, 0x0e,
                        0x0e, 0xc0, 0x81, 0x4f, 0x8c, 0xf8, 0xa2, 0x6f, 0x71, 0x33};

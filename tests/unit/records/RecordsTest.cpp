@@ -164,7 +164,7 @@ TEST_F(RecordsTest, SettlesEachRowOnItsOwnDay) {
     addFile({row(kNoon, 60.0F), row(late, 120.0F), row(late.addSecs(60), 600.0F)});
     addFile({});
     addFile({row(kNoon)});
-    QFile::remove(path(3)); // a number without a file
+    QFile::remove(path(3));                                   // a number without a file
     addFile({row(late.addSecs(120), 60.0F), row(late, 60.0F), // the clock was set back
              row(late.addDays(3), 60.0F), QStringLiteral("no row")});
     settleAll();
