@@ -1,10 +1,10 @@
 #include "power/CurveFile.h"
 
 #include "cipher/TextCipher.h"
+#include "storage/WholeFile.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QSettings>
 
 #include <algorithm>
@@ -102,17 +102,7 @@ bool writeCurveFile(const QString &path, const QJsonObject &document, QString &w
         return false;
     }
     // The text can hold a "=", which the INI reader takes as it is only between quotes.
-    const QByteArray content = "[EFF]\neff_value=\"" + text + "\"\n";
-    QSaveFile file(path);
-    // flush() tells of a full disk; a commit alone would put the cut file in the old one's place.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() ||
-        !file.commit()) {
-        why = QStringLiteral("can't be written: %1")
-                  .arg(file.error() == QFileDevice::WriteError ? QStringLiteral("is the disk full?")
-                                                               : file.errorString());
-        return false;
-    }
-    return true;
+    return storage::replaceFile(path, "[EFF]\neff_value=\"" + text + "\"\n", why);
 }
 
 int curveSteps(const QJsonObject &document) {

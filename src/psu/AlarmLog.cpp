@@ -1,11 +1,11 @@
 #include "psu/AlarmLog.h"
 
 #include "psu/Logging.h"
+#include "storage/WholeFile.h"
 
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <array>
@@ -97,16 +97,14 @@ void AlarmLog::read() {
 }
 
 void AlarmLog::write() {
-    QSaveFile file(path_);
-    bool written = file.open(QIODevice::WriteOnly);
+    QByteArray text;
     for (const auto &entry : entries_) {
-        const QByteArray line = lineOf(entry);
-        written = written && file.write(line) == line.size();
+        text += lineOf(entry);
     }
-    // flush() tells of a full disk; a commit alone would put the cut file in the old one's place.
-    written = written && file.flush() && file.commit();
-    if (!written && !std::exchange(warned_, true)) {
-        qCWarning(lcPsu).noquote() << path_ << "can't be written; its entries are kept until it can";
+    QString why;
+    const bool written = storage::replaceFile(path_, text, why);
+    if (!written && !warned_) {
+        qCWarning(lcPsu).noquote() << path_ << "is not written, its entries are kept:" << why;
     }
     unwritten_ = !written;
     warned_ = !written;

@@ -2,6 +2,7 @@
 
 #include "records/CsvLog.h"
 #include "records/Logging.h"
+#include "storage/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -44,7 +45,7 @@ std::optional<PackedFile> copyInto(const QString &folder, const QString &log, QS
     }
     const QString name = QFileInfo(log).fileName();
     PackedFile copy{name.toUtf8(), file.readAll()};
-    if (!QDir().mkpath(folder) || !replaceFile(QDir(folder).filePath(name), copy.content, why)) {
+    if (!QDir().mkpath(folder) || !storage::replaceFile(QDir(folder).filePath(name), copy.content, why)) {
         why = QStringLiteral("%1 can't be copied into %2: %3").arg(log, folder, why);
         return std::nullopt;
     }
@@ -120,7 +121,7 @@ std::optional<PackedLogs> packLogs(const QString &dataDir, const QString &accoun
         why = QStringLiteral("the logs can't be packed");
         return std::nullopt;
     }
-    if (!replaceFile(packed.path, bytes, why)) {
+    if (!storage::replaceFile(packed.path, bytes, why)) {
         why = QStringLiteral("%1: %2").arg(packed.path, why);
         return std::nullopt;
     }

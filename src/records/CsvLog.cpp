@@ -3,8 +3,7 @@
 #include "records/Logging.h"
 #include "records/RecordFile.h"
 #include "records/RecordRow.h"
-
-#include <QSaveFile>
+#include "storage/WholeFile.h"
 
 #include <algorithm>
 
@@ -31,7 +30,7 @@ bool exportLog(const QString &source, std::string_view columns, const QString &l
         text += row.toUtf8() + '\n';
     }
     QString why;
-    if (!replaceFile(log, text, why)) {
+    if (!storage::replaceFile(log, text, why)) {
         qCDebug(lcRecords).noquote() << log << "can't be written:" << why;
         return false;
     }
@@ -50,17 +49,6 @@ bool exportMinuteLog(const QString &dataDir, const QString &number) {
 
 bool exportDayLog(const QString &dataDir, const QString &number) {
     return exportLog(dayPath(dataDir, fileNumber(number)), kDayLogColumns, dayLogPath(dataDir));
-}
-
-bool replaceFile(const QString &path, const QByteArray &content, QString &why) {
-    QSaveFile file(path);
-    // commit() alone does not notice that the last bytes found no room.
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-        file.commit()) {
-        return true;
-    }
-    why = file.errorString();
-    return false;
 }
 
 } // namespace zpsg::records

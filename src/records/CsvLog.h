@@ -1,7 +1,6 @@
 // The logs for other programs: one record file or one day file as comma-separated text.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <string_view>
@@ -26,9 +25,5 @@ inline constexpr std::string_view kDayLogColumns =
 /// and the log holds the columns alone; false as well when the log can't be written, and it stays as it was.
 [[nodiscard]] bool exportMinuteLog(const QString &dataDir, const QString &number);
 [[nodiscard]] bool exportDayLog(const QString &dataDir, const QString &number);
-
-/// Replaces a file as a whole. False, the old file as it was and `why` in plain words when it can't be
-/// written.
-[[nodiscard]] bool replaceFile(const QString &path, const QByteArray &content, QString &why);
 
 } // namespace zpsg::records

@@ -2,10 +2,10 @@
 
 #include "curves/CurveSource.h"
 #include "power/CurveFile.h"
+#include "storage/WholeFile.h"
 
 #include <QDir>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <array>
 
@@ -89,14 +89,7 @@ QString decipher(const QStringList &paths, QIODevice &out) {
         return writeAll(out, text) ? QString()
                                    : problem(QStringLiteral("standard output"), out.errorString());
     }
-    QSaveFile file(paths.at(1));
-    // flush() tells of a full disk; a commit alone would put the cut file in the old one's place.
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, text) && file.flush() && file.commit()) {
-        return {};
-    }
-    return problem(paths.at(1), file.error() == QFileDevice::WriteError
-                                    ? QStringLiteral("can't be written; is the disk full?")
-                                    : file.errorString());
+    return storage::replaceFile(paths.at(1), text, why) ? QString() : problem(paths.at(1), why);
 }
 
 QString encipher(const QStringList &paths) {

@@ -2,6 +2,7 @@
 
 #include "records/Archive.h"
 #include "records/CsvLog.h"
+#include "storage/WholeFile.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -64,8 +65,8 @@ protected:
         for (int i = 0; i < 20'000; ++i) {
             rows += QByteArray::number(i * 7919) + '\n';
         }
-        EXPECT_TRUE(records::replaceFile(records::minuteLogPath(dir.path()), rows, why));
-        EXPECT_TRUE(records::replaceFile(records::dayLogPath(dir.path()), "days\r\n--boundary\r\n", why));
+        EXPECT_TRUE(storage::replaceFile(records::minuteLogPath(dir.path()), rows, why));
+        EXPECT_TRUE(storage::replaceFile(records::dayLogPath(dir.path()), "days\r\n--boundary\r\n", why));
         packed = records::packLogs(dir.path(), QStringLiteral("key"), QStringLiteral("SN"), why);
         EXPECT_TRUE(packed) << why.toStdString();
     }
