@@ -7,7 +7,7 @@ program=$1 folder=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 rm -rf "$folder" && mkdir -p "$folder"
 export XDG_RUNTIME_DIR=$folder XDG_CONFIG_HOME=$folder XDG_DATA_HOME=$folder
-export QT_QPA_PLATFORM=offscreen
+export QT_QPA_PLATFORM=offscreen TZ=UTC # where each day has 1440 minutes
 from=$(date -d '3 days ago' +%F) to=$(date -d yesterday +%F)
 "$program" --demo --fast-clock --data-dir "$folder/data" &
 demo=$!
