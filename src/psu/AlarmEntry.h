@@ -11,6 +11,11 @@ namespace zpsg::psu {
 enum class AlarmKind { Rail12, Rail5, Rail33, Fan, Temperature };
 inline constexpr std::size_t kAlarmKinds = 5;
 
+/// At or below this the fan stands still, revolutions a minute.
+inline constexpr double kFanStandsRpm = 10.0;
+/// From here on the supply is too hot, degrees Celsius.
+inline constexpr double kHotCelsius = 60.0;
+
 /// The user switches warnings on and off by these groups.
 enum class AlarmGroup { Voltage, Fan, Temperature };
 inline constexpr std::size_t kAlarmGroups = 3;

@@ -25,8 +25,8 @@ constexpr std::array kRows{
     Row{AlarmKind::Rail12, "voltError", "VVOut12", "HW12V", 50, 11.28, 12.72},
     Row{AlarmKind::Rail5, "voltError", "VVOut5", "HW5V", 30, 4.7, 5.3},
     Row{AlarmKind::Rail33, "voltError", "VVOut33", "HW33V", 30, 3.102, 3.498},
-    Row{AlarmKind::Fan, "fansError", "FanSpeed", nullptr, 0, 10.0, kNoBound},
-    Row{AlarmKind::Temperature, "PSU_Temp_Error", "Temp", nullptr, 0, -kNoBound, 60.0},
+    Row{AlarmKind::Fan, "fansError", "FanSpeed", nullptr, 0, kFanStandsRpm, kNoBound},
+    Row{AlarmKind::Temperature, "PSU_Temp_Error", "Temp", nullptr, 0, -kNoBound, kHotCelsius},
 };
 static_assert(kRows.size() == kAlarmKinds);
 

@@ -12,11 +12,6 @@ namespace {
 
 using psu::AlarmKind;
 
-/// At or below this the fan counts as standing, revolutions a minute.
-constexpr double kFanStandsRpm = 10.0;
-/// From here on the supply counts as too hot, degrees Celsius.
-constexpr double kHotCelsius = 60.0;
-
 /// A rail's label, its nominal volts, and the decimals in which a value and its limit can be told apart.
 struct Rail {
     QString name;
@@ -72,8 +67,8 @@ QString alarmAdvice(AlarmKind kind) {
             .arg(formatFigure(rail->nominal * (1.0 - kRailWindow), rail->decimals),
                  formatFigure(rail->nominal * (1.0 + kRailWindow), rail->decimals));
     }
-    return kind == AlarmKind::Fan ? qtTrId("ALARM_FAN_ADVICE").arg(formatFigure(kFanStandsRpm, 0))
-                                  : qtTrId("ALARM_TEMPERATURE_ADVICE").arg(formatFigure(kHotCelsius, 0));
+    return kind == AlarmKind::Fan ? qtTrId("ALARM_FAN_ADVICE").arg(formatFigure(psu::kFanStandsRpm, 0))
+                                  : qtTrId("ALARM_TEMPERATURE_ADVICE").arg(formatFigure(psu::kHotCelsius, 0));
 }
 
 QString alarmSince(const QDateTime &begin, const QDate &today) {

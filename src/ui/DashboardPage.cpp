@@ -1,5 +1,6 @@
 #include "ui/DashboardPage.h"
 
+#include "psu/AlarmEntry.h"
 #include "psu/SupplyMonitor.h"
 #include "psu/TelemetryRecord.h"
 #include "ui/ArcGauge.h"
@@ -37,10 +38,6 @@ const std::array<Rail, 3> kRails{{
 
 /// The output gauge's range while the model is not known, watts.
 constexpr double kUsualWatts = 1000.0;
-/// From here on the supply's own temperature is a warning, degrees Celsius.
-constexpr double kHotCelsius = 60.0;
-/// At or below this the fan stands still, revolutions a minute.
-constexpr double kFanStandsRpm = 10.0;
 /// The speed that counts as 100 percent, revolutions a minute.
 constexpr double kFanFullRpm = 2250.0;
 
@@ -144,7 +141,7 @@ void DashboardPage::retranslate() {
     efficiency_->setCaption(qtTrId("MAIN_STR_EFFICIENCY"));
     efficiency_->setToolTip(qtTrId("MAIN_STR_INPUT_POWER_EXPLAINED"));
     temperature_->setCaption(qtTrId("MAIN_STR_TEMPERATURE"));
-    temperature_->setCaution(kHotCelsius, qtTrId("MAIN_STR_HOT"));
+    temperature_->setCaution(psu::kHotCelsius, qtTrId("MAIN_STR_HOT"));
     fan_->setCaption(qtTrId("MAIN_STR_FAN"));
     input_->setCaption(qtTrId("MAIN_STR_INPUT_VOLTAGE"));
 }
@@ -200,7 +197,7 @@ void DashboardPage::showFan(const psu::TelemetryRecord &record) {
     const auto speed = fan_->readoutValue();
     if (!speed) {
         fan_->setNote({});
-    } else if (*speed <= kFanStandsRpm) {
+    } else if (*speed <= psu::kFanStandsRpm) {
         fan_->setNote(qtTrId("MAIN_STR_FAN_STANDS"));
     } else {
         fan_->setNote(formatFigure(100.0 * *speed / kFanFullRpm, 0) + QStringLiteral("\u00A0%"));
