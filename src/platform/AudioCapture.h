@@ -1,0 +1,40 @@
+// What the PC is playing: the monitor of the default output (PulseAudio or PipeWire) on Linux, WASAPI
+// loopback on Windows.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+
+namespace zpsg::platform {
+
+enum class AudioState {
+    Starting, ///< looking for the output
+    Running,  ///< samples arrive (while nothing plays they may be absent or zero)
+    NoDevice, ///< no sound server or no output; looked for again by itself every few seconds
+};
+
+/// Samples a second of what is handed on.
+inline constexpr int kAudioRate = 48000;
+
+/// Called on the capture's own thread, one call at a time.
+struct AudioListener {
+    std::function<void(std::span<const float>)> samples; ///< mono, -1 to 1
+    std::function<void(AudioState)> state;               ///< when it has changed
+};
+
+class AudioCapture {
+public:
+    /// Ends the capture; no callback runs after it returns.
+    virtual ~AudioCapture() = default;
+    AudioCapture(const AudioCapture &) = delete;
+    AudioCapture &operator=(const AudioCapture &) = delete;
+
+    /// Never blocks on the sound server; everything else is told through `listener`.
+    static std::unique_ptr<AudioCapture> start(AudioListener listener);
+
+protected:
+    AudioCapture() = default;
+};
+
+} // namespace zpsg::platform
