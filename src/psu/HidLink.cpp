@@ -44,6 +44,11 @@ bool RawReadJob::step(HidPort &port) {
     return true;
 }
 
+bool RawWriteJob::step(HidPort &port) {
+    succeeded_ = port.writeRaw(report_);
+    return true;
+}
+
 HidLink::HidLink(std::unique_ptr<HidBackend> backend, PortTiming timing)
     : core_(std::make_shared<Core>(std::move(backend), timing)), thread_([core = core_] { run(core); }) {}
 

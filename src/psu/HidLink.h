@@ -77,6 +77,19 @@ private:
     bool succeeded_ = false;
 };
 
+/// Hands one output report to the raw device.
+class RawWriteJob : public LinkJob {
+public:
+    explicit RawWriteJob(std::vector<std::uint8_t> report) : report_(std::move(report)) {}
+    /// Valid once finished.
+    [[nodiscard]] bool succeeded() const { return succeeded_; }
+
+private:
+    bool step(HidPort &port) override;
+    std::vector<std::uint8_t> report_;
+    bool succeeded_ = false;
+};
+
 class HidLink {
 public:
     explicit HidLink(std::unique_ptr<HidBackend> backend, PortTiming timing = {});

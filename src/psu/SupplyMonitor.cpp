@@ -44,6 +44,7 @@ bool SupplyMonitor::connectWith(OpenOrder order, bool atStart) {
         pass_.reset(); // an unfinished pass belongs to the handle that is about to be closed
         rawPass_.reset();
         identity_.clear();
+        reports_.clear();
         identityAttempts_ = 0;
         connecting_ = std::make_shared<ConnectJob>(order);
         link_.submit(connecting_);
@@ -124,7 +125,13 @@ void SupplyMonitor::collectIdentity() {
 
 void SupplyMonitor::send(const Request &request) {
     if (path_ == Path::Main) {
-        link_.submit(std::make_shared<ExchangeJob>(std::vector{request}));
+        reports_.send(request);
+    }
+}
+
+void SupplyMonitor::sendRaw(std::vector<std::uint8_t> report) {
+    if (path_ == Path::Raw) {
+        reports_.sendRaw(std::move(report));
     }
 }
 
@@ -154,6 +161,7 @@ void SupplyMonitor::readInfo() {
 }
 
 void SupplyMonitor::collect() {
+    reports_.goOn();
     if (pass_ && link_.finished(*pass_)) {
         collectMain(*std::exchange(pass_, nullptr));
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "psu/HidLink.h"
+#include "psu/ReportQueue.h"
 #include "psu/TelemetryDecoder.h"
 #include "psu/TelemetryRecord.h"
 
@@ -57,8 +58,16 @@ public:
     /// derived from it belongs into the record. Set before the first pass.
     void onSample(std::function<void(TelemetryRecord &)> derive) { derive_ = std::move(derive); }
 
-    /// Sends a report and does not wait for its reply, whose content nobody examines (fan and lighting).
+    /// Sends a report and does not wait for its reply, whose content nobody examines (fan and lighting). Not
+    /// sent while the main path is not open; see ReportQueue.
     void send(const Request &request);
+    /// The same for an output report of the raw path, id first.
+    void sendRaw(std::vector<std::uint8_t> report);
+    /// Waits at most `patience` until every report is with the device; true when it is.
+    bool waitSent(std::chrono::milliseconds patience) { return reports_.waitSent(patience); }
+    /// For a thread that streams frames on the main path; each call bounded by `patience`. The monitor
+    /// outlives it.
+    [[nodiscard]] FrameSender frameSender(std::chrono::milliseconds patience) { return {link_, patience}; }
 
     [[nodiscard]] bool mainPathPresent() const { return path_ == Path::Main; }
     [[nodiscard]] bool rawPathPresent() const { return path_ == Path::Raw; }
@@ -127,7 +136,8 @@ private:
     bool identityKnown_ = false;
     bool hasReading_ = false;
     bool reconnectAsked_ = false;
-    HidLink link_; // last: its thread ends before anything that it calls back
+    HidLink link_; // late: its thread ends before anything that it calls back
+    ReportQueue reports_{link_};
 };
 
 } // namespace zpsg::psu

@@ -20,7 +20,8 @@ public:
     int write(std::span<const std::uint8_t> report) override {
         std::unique_lock lock(bus_->mutex_);
         bus_->changed_.wait(lock, [this] { return !bus_->writesBlocked_ || plugged_->gone; });
-        if (plugged_->gone) {
+        // As the system does: a report that the device has not described is refused.
+        if (plugged_->gone || report.size() != psu::kOutputReportSize || report[0] != 0x00) {
             return -1;
         }
         if (bus_->onReport_) {

@@ -241,6 +241,12 @@ std::optional<Answer> SupplyModel::inputReport(std::uint8_t id) {
 
 bool SupplyModel::rawOutput(std::span<const std::uint8_t> report) {
     log_.emplace_back(report.begin(), report.end());
+    if (report.size() == secondLight_.size() && report[0] == 0x1E) {
+        if (report[1] == 0x00 || report[1] == 0x03) {
+            std::copy(report.begin(), report.end(), secondLight_.begin());
+        }
+        return report[1] == 0x00 || report[1] == 0x01 || report[1] == 0x03;
+    }
     if (report.size() < 2 || report[0] != 0x20 || report[1] > 2) {
         return false;
     }

@@ -75,7 +75,8 @@ public:
     /// The raw path's input report with this id, id first: 0x10 (31 bytes), 0x11 or 0x12 (33 bytes).
     [[nodiscard]] std::optional<Answer> inputReport(std::uint8_t id);
     /// Takes an output report of the raw path, id first. 0x20: byte 1 is the fan mode (1 Silent, 0
-    /// Performance, 2 Zero Fan). False for any other.
+    /// Performance, 2 Zero Fan). 0x1E, 16 bytes: the light; byte 1 is 0x00 with red, green, blue, 0x01 with the
+    /// enable switch, 0x03 for the spectrum. False for any other.
     bool rawOutput(std::span<const std::uint8_t> report);
 
     // What the supply holds.
@@ -85,6 +86,8 @@ public:
     /// The last lighting report's bytes 3 to 64 (effect code and LED bytes); zero until the first.
     [[nodiscard]] const std::array<std::uint8_t, 62> &ledFrame() const { return ledFrame_; }
     [[nodiscard]] const std::array<std::uint8_t, 62> &storedLedFrame() const { return storedLedFrame_; }
+    /// The raw path's last 0x1E report with command 0x00 or 0x03; zero until the first.
+    [[nodiscard]] const std::array<std::uint8_t, 16> &secondLight() const { return secondLight_; }
     /// Every report taken, payload only, oldest first; at most the last 4096.
     [[nodiscard]] const std::vector<std::vector<std::uint8_t>> &log() const { return log_; }
     void clearLog() { log_.clear(); }
@@ -114,6 +117,7 @@ private:
     int customFanPercent_ = 60;
     std::array<std::uint8_t, 62> ledFrame_{};
     std::array<std::uint8_t, 62> storedLedFrame_{};
+    std::array<std::uint8_t, 16> secondLight_{};
     std::vector<std::vector<std::uint8_t>> log_;
     Fault fault_ = Fault::None;
     std::chrono::milliseconds faultDelay_{300};

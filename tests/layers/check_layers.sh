@@ -12,7 +12,7 @@ declare -A allowed=(
     [simulator]="simulator psu platform"
     [power]="power psu cipher storage"
     [records]="records power psu cipher storage"
-    [lighting]="lighting psu platform"
+    [lighting]="lighting psu"
     [fan]="fan psu"
     [remote]="remote psu"
     [cloud]="cloud"
@@ -49,7 +49,7 @@ for folder in "$src"/*/; do
         ;;
     esac
 done
-if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|LED_Color|Mqtt|Socket|Metrics)/' "$src" \
+if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|Lighting|FanCurve|LED_Color|Mqtt|Socket|Metrics)/' "$src" \
     --include='*.cpp' --include='*.h' | grep -v 'app/SettingsTable.h'; then
     complain "a settings key is built outside app/SettingsTable.h"
 fi

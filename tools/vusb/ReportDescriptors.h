@@ -29,7 +29,7 @@ inline constexpr std::size_t kMainInputCount = 15;
 static_assert(kMainDescriptor[kMainInputCount - 1] == 0x95 && kMainDescriptor[kMainInputCount + 3] == 0x81);
 
 /// Raw path: numbered reports; the counts leave out the id. The sample and the two blocks are input reports
-/// that the host asks for, the fan mode is an output report.
+/// that the host asks for, the fan mode and the light are output reports.
 inline constexpr auto kRawDescriptor = std::to_array<std::uint8_t>({
     0x06, 0x00, 0xFF, // usage page: vendor
     0x09, 0x01,       // usage 1
@@ -51,6 +51,10 @@ inline constexpr auto kRawDescriptor = std::to_array<std::uint8_t>({
     0x85, 0x20,       //   report id: fan mode
     0x95, 0x01,       //   report count 1
     0x09, 0x05,       //   usage 5
+    0x91, 0x02,       //   output
+    0x85, 0x1E,       //   report id: the light
+    0x95, 0x0F,       //   report count 15
+    0x09, 0x06,       //   usage 6
     0x91, 0x02,       //   output
     0xC0,             // end of collection
 });
