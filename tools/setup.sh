@@ -4,6 +4,7 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqwt-qt5-dev
     libhidapi-dev libudev-dev libsodium-dev
+    libsystemd-dev libpulse-dev libkissfft-dev
     libqt5sql5-sqlite sqlite3 libzip-dev zlib1g-dev
     librsvg2-bin fonts-inter fonts-dejavu-core
 )
@@ -12,17 +13,24 @@ test_packages=(
     clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick
+    dbus-daemon pulseaudio-utils
     qemu-system-x86 busybox-static cpio kmod xz-utils
     strace python3 openssl
 )
+
+installed() { # PACKAGE
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# Where the desktop's sound is PipeWire's, Debian removes that to install the other server. The test that needs it is
+# skipped there.
+installed pipewire-alsa || test_packages+=(pulseaudio)
 
 # Installs those of the named packages that are not there.
 install_missing() {
     local package missing=()
     for package in "$@"; do
-        if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
-            missing+=("$package")
-        fi
+        installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
     if ! command -v apt-get >/dev/null; then

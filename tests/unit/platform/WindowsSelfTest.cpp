@@ -1,17 +1,23 @@
 // Calls every platform service once, so that linking it shows what is missing; on a Windows machine it can be
 // run, touches no setting, and ends with 0 when all is as it should be on a machine without a supply.
+#include "platform/AudioCapture.h"
 #include "platform/Autostart.h"
 #include "platform/DeviceAccess.h"
 #include "platform/DeviceWatch.h"
 #include "platform/ExitRequest.h"
 #include "platform/RawHid.h"
+#include "platform/SessionWatch.h"
 #include "platform/SystemMenu.h"
 #include "platform/WindowRendezvous.h"
 #include "simulator/DayScript.h"
 #include "simulator/LinearEncoding.h"
 #include "simulator/SupplyModel.h"
 
+#include <chrono>
+#include <future>
 #include <iostream>
+#include <span>
+#include <utility>
 
 using namespace zpsg::platform;
 
@@ -46,6 +52,19 @@ void devices() {
            "no permissions here");
 }
 
+void notices() {
+    expect(SessionWatch::start([](SessionEvent) {}) != nullptr, "notice of lock and sleep");
+    std::promise<AudioState> told;
+    const auto capture = AudioCapture::start({[](std::span<const float>) {},
+                                              [&, first = true](AudioState state) mutable {
+                                                  if (std::exchange(first, false)) {
+                                                      told.set_value(state);
+                                                  }
+                                              }});
+    expect(told.get_future().wait_for(std::chrono::seconds(10)) == std::future_status::ready,
+           "sound is there or not");
+}
+
 void settings() {
     std::string error;
     if (!autostartEnabled()) {
@@ -66,6 +85,7 @@ void simulatedSupply() {
 int main() {
     titles();
     devices();
+    notices();
     settings();
     simulatedSupply();
     return failures == 0 ? 0 : 1;
