@@ -14,12 +14,12 @@ namespace zpsg::lighting {
 inline constexpr int kEffectSteps = 95;
 
 struct EffectInput {
-    int step = 0;                      ///< 0 to kEffectSteps - 1
-    int speed = 0;                     ///< index into kSpeeds: 0 Extreme to 3 Slow
-    std::span<const Colour> colours;   ///< one a LED, brightness applied
-    std::span<const Colour> otherRing; ///< what the other ring shows in this step; empty when it copies too
-    Sound sound;                       ///< what the PC is playing
-    std::optional<float> celsius;      ///< of the supply, when known
+    int step = 0;                        ///< 0 to kEffectSteps - 1
+    int speed = 0;                       ///< index into kSpeeds: 0 Extreme to 3 Slow
+    std::span<const Colour> colours;     ///< one a LED, brightness applied
+    std::span<const Colour> otherRing{}; ///< what the other ring shows in this step; empty when it copies too
+    Sound sound{};                       ///< what the PC is playing
+    std::optional<float> celsius{};      ///< of the supply, when known
 };
 
 /// Fills `leds`, which is as long as `input.colours` (any length from 1 on). LED 0 is at the top, the others

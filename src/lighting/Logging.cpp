@@ -1,0 +1,3 @@
+#include "lighting/Logging.h"
+
+Q_LOGGING_CATEGORY(lcLighting, "zpsg.lighting", QtInfoMsg)

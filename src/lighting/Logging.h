@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+/// Category "zpsg.lighting".
+Q_DECLARE_LOGGING_CATEGORY(lcLighting)

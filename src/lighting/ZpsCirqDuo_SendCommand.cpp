@@ -1,0 +1,90 @@
+#include "lighting/ZpsCirqDuo_SendCommand.h"
+
+#include <QTimer>
+
+namespace zpsg::lighting {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// A frame that took longer than its own time is followed by this many times as long a rest, so that a slow
+/// or silent supply gives at most a tenth of its time to the lights.
+constexpr int kRest = 9;
+constexpr auto kSlow = std::chrono::milliseconds(kFrameMilliseconds);
+/// After a frame that was not taken at all.
+constexpr auto kLongRest = 10s;
+constexpr int kOverlaySteps = 1 << 20; // some half a day
+
+} // namespace
+
+ZpsCirqDuo_SendCommand::ZpsCirqDuo_SendCommand(SendFrame sendFrame, Now now, QObject *parent)
+    : QThread(parent), sendFrame_(std::move(sendFrame)), now_(std::move(now)) {}
+
+ZpsCirqDuo_SendCommand::~ZpsCirqDuo_SendCommand() {
+    quit();
+    wait();
+}
+
+void ZpsCirqDuo_SendCommand::setState(const DuoState &state) {
+    const std::lock_guard lock(mutex_);
+    state_ = state;
+    restUntil_ = {};
+}
+
+void ZpsCirqDuo_SendCommand::setCelsius(std::optional<float> celsius) {
+    const std::lock_guard lock(mutex_);
+    surroundings_.celsius = celsius;
+}
+
+void ZpsCirqDuo_SendCommand::setOverlay(const Overlay &overlay) {
+    const std::lock_guard lock(mutex_);
+    surroundings_.overlay = overlay;
+}
+
+void ZpsCirqDuo_SendCommand::setSoundSource(std::function<Sound()> source) {
+    const std::lock_guard lock(mutex_);
+    soundSource_ = std::move(source);
+}
+
+DuoLeds ZpsCirqDuo_SendCommand::shown() const {
+    const std::lock_guard lock(mutex_);
+    return shown_;
+}
+
+void ZpsCirqDuo_SendCommand::run() {
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    connect(&timer, &QTimer::timeout, this, &ZpsCirqDuo_SendCommand::runEffect, Qt::DirectConnection);
+    timer.start(kFrameMilliseconds);
+    exec();
+}
+
+void ZpsCirqDuo_SendCommand::runEffect() {
+    const auto begin = now_();
+    const auto leds = nextFrame(begin);
+    if (!leds) {
+        return;
+    }
+    const bool sent = sendFrame_(duoFrame(*leds, DuoLayout::EachSlot));
+    const auto end = now_();
+    const auto taken = end - begin;
+    const std::lock_guard lock(mutex_);
+    if (!sent || taken > kSlow) {
+        restUntil_ = end + (sent ? kRest * taken : kLongRest);
+    }
+    shown_ = *leds;
+}
+
+std::optional<DuoLeds> ZpsCirqDuo_SendCommand::nextFrame(std::chrono::steady_clock::time_point now) {
+    step_ = (step_ + 1) % kEffectSteps;
+    overlayStep_ = (overlayStep_ + 1) % kOverlaySteps;
+    const std::lock_guard lock(mutex_);
+    if (now < restUntil_) {
+        return std::nullopt;
+    }
+    surroundings_.sound = soundSource_ && needsSound(state_) ? soundSource_() : Sound{};
+    return duoLeds(state_, surroundings_, step_, overlayStep_);
+}
+
+} // namespace zpsg::lighting
