@@ -664,5 +664,457 @@ While the supply is connected every minute is recorded, and today’s bar appear
         <source></source>
         <translation>Not exported: %1</translation>
     </message>
+    <message id="NAV_LIGHTING">
+        <source></source>
+        <translation>Lighting</translation>
+    </message>
+    <message id="LIGHTING_PAGE_TITLE">
+        <source></source>
+        <translation>Lighting</translation>
+    </message>
+    <message id="LIGHTING_PAGE_HINT">
+        <source></source>
+        <translation>Changes show on the ring at once. Save keeps them for the next start.</translation>
+    </message>
+    <message id="LIGHTING_UNREACHABLE">
+        <source></source>
+        <translation>The supply is not connected. Changes are kept and sent when it is back.</translation>
+    </message>
+    <message id="LIGHTING_NONE">
+        <source></source>
+        <translation>No lights to set</translation>
+    </message>
+    <message id="LIGHTING_NONE_HINT">
+        <source></source>
+        <translation>No supply with a lit fan is connected. As soon as one is, the panel of its ring appears here.</translation>
+    </message>
+    <message id="LIGHTING_SHOWN">
+        <source></source>
+        <translation>What the ring shows</translation>
+    </message>
+    <message id="LIGHTING_PICTURE">
+        <source></source>
+        <translation>Lights of the ring</translation>
+    </message>
+    <message id="LIGHTING_PICTURE_HINT">
+        <source></source>
+        <translation>Click a light to choose it, with Shift to choose one more or one less. Drag to choose several. Keys: arrows move, with Shift they choose more, Space adds or takes away, Ctrl+A chooses all, Esc none.</translation>
+    </message>
+    <message id="LIGHTING_CHOOSE_HINT">
+        <source></source>
+        <translation>Click or drag to choose lights. None chosen means all.</translation>
+    </message>
+    <message id="LIGHTING_CHOOSE_ALL">
+        <source></source>
+        <translation>All</translation>
+    </message>
+    <message id="LIGHTING_CHOOSE_NONE">
+        <source></source>
+        <translation>None</translation>
+    </message>
+    <message id="LIGHTING_FRONT">
+        <source></source>
+        <translation>Front</translation>
+    </message>
+    <message id="LIGHTING_MIDDLE">
+        <source></source>
+        <translation>Middle</translation>
+    </message>
+    <message id="LIGHTING_RING_FRONT">
+        <source></source>
+        <translation>Front ring</translation>
+    </message>
+    <message id="LIGHTING_RING_MIDDLE">
+        <source></source>
+        <translation>Middle ring</translation>
+    </message>
+    <message id="LIGHTING_ALL_LIGHTS">
+        <source></source>
+        <translation>all lights</translation>
+    </message>
+    <message id="LIGHTING_SOME_LIGHTS">
+        <source></source>
+        <translation>%1 of %2 lights</translation>
+    </message>
+    <message id="LIGHTING_THE_RING">
+        <source></source>
+        <translation>the whole ring</translation>
+    </message>
+    <message id="LIGHTING_COLOUR_OF">
+        <source></source>
+        <translation>Colour of %1</translation>
+    </message>
+    <message id="LIGHTING_COLOUR_BY_TEMPERATURE">
+        <source></source>
+        <translation>The temperature sets the colour</translation>
+    </message>
+    <message id="LIGHTING_COLOUR_BY_EFFECT">
+        <source></source>
+        <translation>The effect brings its own colours</translation>
+    </message>
+    <message id="LIGHTING_SINGLE_RING">
+        <source></source>
+        <translation>Single-colour ring</translation>
+    </message>
+    <message id="LIGHTING_PLUS_RING">
+        <source></source>
+        <translation>Ring of 12 lights</translation>
+    </message>
+    <message id="LIGHTING_DUO_RINGS">
+        <source></source>
+        <translation>Front and middle ring</translation>
+    </message>
+    <message id="LIGHTING_LIGHTS">
+        <source></source>
+        <translation>Lights</translation>
+    </message>
+    <message id="LIGHTING_LIGHTS_HINT">
+        <source></source>
+        <translation>Switches the lights on and off; everything else stays as it is set</translation>
+    </message>
+    <message id="LIGHTING_OFF">
+        <source></source>
+        <translation>Off</translation>
+    </message>
+    <message id="LIGHTING_DEFAULT">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="LIGHTING_DEFAULT_HINT">
+        <source></source>
+        <translation>Sets the ring to what it was when it was new</translation>
+    </message>
+    <message id="LIGHTING_SAVE">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="LIGHTING_SAVE_HINT">
+        <source></source>
+        <translation>Keeps what is set now</translation>
+    </message>
+    <message id="LIGHTING_MODE">
+        <source></source>
+        <translation>Mode</translation>
+    </message>
+    <message id="LIGHTING_COLOUR">
+        <source></source>
+        <translation>Color</translation>
+    </message>
+    <message id="LIGHTING_SPEED">
+        <source></source>
+        <translation>Speed</translation>
+    </message>
+    <message id="LIGHTING_COLOUR_EACH">
+        <source></source>
+        <translation>Color</translation>
+    </message>
+    <message id="LIGHTING_COLOUR_SINGLE">
+        <source></source>
+        <translation>Single</translation>
+    </message>
+    <message id="LIGHTING_PREVIOUS">
+        <source></source>
+        <translation>Previous</translation>
+    </message>
+    <message id="LIGHTING_NEXT">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="LIGHTING_BACK">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="LIGHTING_WHEEL">
+        <source></source>
+        <translation>Hue and saturation</translation>
+    </message>
+    <message id="LIGHTING_WHEEL_HINT">
+        <source></source>
+        <translation>Left and right turn the hue, up and down change the saturation, with Shift in small steps</translation>
+    </message>
+    <message id="LIGHTING_HEX">
+        <source></source>
+        <translation>Colour as #RRGGBB</translation>
+    </message>
+    <message id="LIGHTING_HEX_FAULT">
+        <source></source>
+        <translation>Not a colour: use #RRGGBB</translation>
+    </message>
+    <message id="LIGHTING_SWATCHES">
+        <source></source>
+        <translation>Ready colours</translation>
+    </message>
+    <message id="LIGHTING_PERCENT">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="LIGHTING_NOTE_LOAD">
+        <source></source>
+        <translation>The ring shows the load instead of the effect.</translation>
+    </message>
+    <message id="LIGHTING_NOTE_TEMPERATURE">
+        <source></source>
+        <translation>The ring shows the temperature instead of the effect.</translation>
+    </message>
+    <message id="LIGHTING_SOUND_LISTENING">
+        <source></source>
+        <translation>The lights follow what the PC plays.</translation>
+    </message>
+    <message id="LIGHTING_SOUND_NONE">
+        <source></source>
+        <translation>No sound output was found. The lights rest until there is one.</translation>
+    </message>
+    <message id="LIGHTING_SHOW_ON_RING">
+        <source></source>
+        <translation>Show on the ring</translation>
+    </message>
+    <message id="LIGHTING_GAUGE_EFFECT">
+        <source></source>
+        <translation>Effect</translation>
+    </message>
+    <message id="LIGHTING_GAUGE_LOAD">
+        <source></source>
+        <translation>Load</translation>
+    </message>
+    <message id="LIGHTING_GAUGE_TEMPERATURE">
+        <source></source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="LIGHTING_SAFE_PALETTE">
+        <source></source>
+        <translation>Colours that everybody can tell apart</translation>
+    </message>
+    <message id="LIGHTING_SAFE_PALETTE_HINT">
+        <source></source>
+        <translation>Gauges and alarms avoid pairs of colours that colour-blind people confuse</translation>
+    </message>
+    <message id="LIGHTING_ALARM_ON_RING">
+        <source></source>
+        <translation>Alarm on the ring</translation>
+    </message>
+    <message id="LIGHTING_ALARM_ON_RING_HINT">
+        <source></source>
+        <translation>While an alarm holds, the ring warns whatever effect is set</translation>
+    </message>
+    <message id="LIGHTING_OFF_WHEN_LOCKED">
+        <source></source>
+        <translation>Off while locked or asleep</translation>
+    </message>
+    <message id="LIGHTING_OFF_WHEN_LOCKED_HINT">
+        <source></source>
+        <translation>The lights go out while the PC is locked or asleep, and come back after it</translation>
+    </message>
+    <message id="MAIN_12LED_Light_Mode">
+        <source></source>
+        <translation>Light mode</translation>
+    </message>
+    <message id="MAIN_12LED_Color_Mode">
+        <source></source>
+        <translation>Color mode</translation>
+    </message>
+    <message id="MAIN_12LED_Speed_Mode">
+        <source></source>
+        <translation>Speed</translation>
+    </message>
+    <message id="MAIN_LED_Brightness">
+        <source></source>
+        <translation>Brightness</translation>
+    </message>
+    <message id="MAIN_CIRQ_STATIC">
+        <source></source>
+        <translation>Static</translation>
+    </message>
+    <message id="MAIN_CIRQ_SPECTRUM">
+        <source></source>
+        <translation>Spectrum</translation>
+    </message>
+    <message id="MAIN_CIRQ_BLINK">
+        <source></source>
+        <translation>Blink</translation>
+    </message>
+    <message id="MAIN_CIRQ_COLOUR_BLINK">
+        <source></source>
+        <translation>Colour blink</translation>
+    </message>
+    <message id="MAIN_12LED_Flow">
+        <source></source>
+        <translation>Flow</translation>
+    </message>
+    <message id="MAIN_12LED_RGB_Spectrum">
+        <source></source>
+        <translation>RGB spectrum</translation>
+    </message>
+    <message id="MAIN_12LED_Ripple">
+        <source></source>
+        <translation>Ripple</translation>
+    </message>
+    <message id="MAIN_12LED_Blink">
+        <source></source>
+        <translation>Blink</translation>
+    </message>
+    <message id="MAIN_12LED_Pulse">
+        <source></source>
+        <translation>Pulse</translation>
+    </message>
+    <message id="MAIN_12LED_Wave">
+        <source></source>
+        <translation>Wave</translation>
+    </message>
+    <message id="MAIN_12LED_Full_Lighted">
+        <source></source>
+        <translation>Full lighted</translation>
+    </message>
+    <message id="MAIN_12LED_Extreme">
+        <source></source>
+        <translation>Extreme</translation>
+    </message>
+    <message id="MAIN_12LED_Fast">
+        <source></source>
+        <translation>Fast</translation>
+    </message>
+    <message id="MAIN_12LED_Normal">
+        <source></source>
+        <translation>Normal</translation>
+    </message>
+    <message id="MAIN_12LED_Slow">
+        <source></source>
+        <translation>Slow</translation>
+    </message>
+    <message id="COLOUR_RED">
+        <source></source>
+        <translation>Red</translation>
+    </message>
+    <message id="COLOUR_ORANGE">
+        <source></source>
+        <translation>Orange</translation>
+    </message>
+    <message id="COLOUR_YELLOW">
+        <source></source>
+        <translation>Yellow</translation>
+    </message>
+    <message id="COLOUR_LIME">
+        <source></source>
+        <translation>Lime</translation>
+    </message>
+    <message id="COLOUR_GREEN">
+        <source></source>
+        <translation>Green</translation>
+    </message>
+    <message id="COLOUR_MINT">
+        <source></source>
+        <translation>Mint</translation>
+    </message>
+    <message id="COLOUR_CYAN">
+        <source></source>
+        <translation>Cyan</translation>
+    </message>
+    <message id="COLOUR_AZURE">
+        <source></source>
+        <translation>Azure</translation>
+    </message>
+    <message id="COLOUR_BLUE">
+        <source></source>
+        <translation>Blue</translation>
+    </message>
+    <message id="COLOUR_VIOLET">
+        <source></source>
+        <translation>Violet</translation>
+    </message>
+    <message id="COLOUR_MAGENTA">
+        <source></source>
+        <translation>Magenta</translation>
+    </message>
+    <message id="COLOUR_ROSE">
+        <source></source>
+        <translation>Rose</translation>
+    </message>
+    <message id="COLOUR_WHITE">
+        <source></source>
+        <translation>White</translation>
+    </message>
+    <message id="DUO_EFFECT_FLOW">
+        <source></source>
+        <translation>Flow</translation>
+    </message>
+    <message id="DUO_EFFECT_RGB_SPECTRUM">
+        <source></source>
+        <translation>RGB spectrum</translation>
+    </message>
+    <message id="DUO_EFFECT_RIPPLE">
+        <source></source>
+        <translation>Ripple</translation>
+    </message>
+    <message id="DUO_EFFECT_BLINK">
+        <source></source>
+        <translation>Blink</translation>
+    </message>
+    <message id="DUO_EFFECT_PULSE">
+        <source></source>
+        <translation>Pulse</translation>
+    </message>
+    <message id="DUO_EFFECT_WAVE">
+        <source></source>
+        <translation>Wave</translation>
+    </message>
+    <message id="DUO_EFFECT_FULL_LIGHTED">
+        <source></source>
+        <translation>Full lighted</translation>
+    </message>
+    <message id="DUO_EFFECT_COPY_COLOR">
+        <source></source>
+        <translation>Copy colour</translation>
+    </message>
+    <message id="DUO_EFFECT_MOVIE">
+        <source></source>
+        <translation>Movie</translation>
+    </message>
+    <message id="DUO_EFFECT_GAMING">
+        <source></source>
+        <translation>Gaming</translation>
+    </message>
+    <message id="DUO_EFFECT_PARTY">
+        <source></source>
+        <translation>Party</translation>
+    </message>
+    <message id="DUO_EFFECT_MOBILE_MUSIC_1">
+        <source></source>
+        <translation>Mobile music 1</translation>
+    </message>
+    <message id="DUO_EFFECT_MOBILE_MUSIC_2">
+        <source></source>
+        <translation>Mobile music 2</translation>
+    </message>
+    <message id="DUO_EFFECT_MOBILE_MUSIC_3">
+        <source></source>
+        <translation>Mobile music 3</translation>
+    </message>
+    <message id="DUO_EFFECT_THERMAL">
+        <source></source>
+        <translation>Thermal</translation>
+    </message>
+    <message id="DUO_EFFECT_CROSS">
+        <source></source>
+        <translation>Cross</translation>
+    </message>
+    <message id="DUO_EFFECT_HEARTBEAT">
+        <source></source>
+        <translation>Heartbeat</translation>
+    </message>
+    <message id="DUO_EFFECT_SCAN">
+        <source></source>
+        <translation>Scan</translation>
+    </message>
+    <message id="DUO_EFFECT_SWIRL">
+        <source></source>
+        <translation>Swirl</translation>
+    </message>
+    <message id="DUO_EFFECT_RAINDROP">
+        <source></source>
+        <translation>Raindrop</translation>
+    </message>
+    <message id="DUO_EFFECT_STACK">
+        <source></source>
+        <translation>Stack</translation>
+    </message>
 </context>
 </TS>

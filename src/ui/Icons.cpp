@@ -2,8 +2,10 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zpsg::ui {
 namespace {
@@ -76,6 +78,17 @@ void paintBars(QPainter &painter) {
     painter.drawRect(QRectF(16.1, 8.5, 3.4, 12));
 }
 
+void paintRing(QPainter &painter) {
+    painter.drawEllipse(QPointF(12, 12), 4.6, 4.6);
+    QPen dots = painter.pen();
+    dots.setWidthF(1.45 * dots.widthF());
+    painter.setPen(dots);
+    for (int i = 0; i < 8; ++i) {
+        const double angle = i * M_PI_4;
+        painter.drawPoint(QPointF(12 + 9.4 * std::sin(angle), 12 - 9.4 * std::cos(angle)));
+    }
+}
+
 } // namespace
 
 void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &colour) {
@@ -119,6 +132,9 @@ void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &c
         break;
     case Icon::Bars:
         paintBars(painter);
+        break;
+    case Icon::Ring:
+        paintRing(painter);
         break;
     case Icon::Tick:
         painter.drawPolyline(QPolygonF({QPointF(3.5, 12.5), QPointF(9.5, 18.5), QPointF(20.5, 6)}));

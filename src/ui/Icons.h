@@ -19,6 +19,7 @@ enum class Icon {
     Bell,
     Tick,
     Bars, ///< a chart of three bars
+    Ring, ///< lights round a fan
 };
 
 /// Draws the sign centred in `rect`, as large as its shorter side.

@@ -4,6 +4,7 @@
 #include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
 #include "ui/HistoryPage.h"
+#include "ui/LightingPage.h"
 #include "ui/NavigationRail.h"
 #include "ui/Style.h"
 #include "ui/TitleBar.h"
@@ -21,6 +22,7 @@ NavigationRail *makeNavigation(QWidget *parent) {
     auto *rail = new NavigationRail(parent);
     rail->addPage(Icon::Gauge, QT_TRID_NOOP("NAV_DASHBOARD"));
     rail->addPage(Icon::Bars, QT_TRID_NOOP("NAV_HISTORY"));
+    rail->addPage(Icon::Ring, QT_TRID_NOOP("NAV_LIGHTING"));
     rail->addPage(Icon::Bell, QT_TRID_NOOP("NAV_ALARMS"));
     return rail;
 }
@@ -36,6 +38,7 @@ MainView::MainView(QWidget *parent)
     , alarmBanner_(new AlarmBanner(pages_))
     , dashboard_(new DashboardPage(pages_))
     , history_(new HistoryPage(pages_))
+    , lighting_(new LightingPage(pages_))
     , alarms_(new AlarmsPage(pages_)) {
     setObjectName(QStringLiteral("centralMain"));
     setAttribute(Qt::WA_StyledBackground);
@@ -60,6 +63,7 @@ MainView::MainView(QWidget *parent)
 void MainView::layOut() {
     pages_->addWidget(dashboard_);
     pages_->addWidget(history_);
+    pages_->addWidget(lighting_);
     pages_->addWidget(alarms_);
     dashboard_->setAlarmBanner(alarmBanner_);
 

@@ -11,6 +11,7 @@ class AlarmBanner;
 class AlarmsPage;
 class DashboardPage;
 class HistoryPage;
+class LightingPage;
 class NavigationRail;
 class TitleBar;
 
@@ -19,7 +20,7 @@ class MainView : public QWidget {
 
 public:
     /// In the order of the rail.
-    enum class Page { Dashboard, History, Alarms };
+    enum class Page { Dashboard, History, Lighting, Alarms };
     Q_ENUM(Page)
 
     /// The least size at which every text has room.
@@ -32,6 +33,7 @@ public:
     [[nodiscard]] NavigationRail *navigation() const { return navigation_; }
     [[nodiscard]] DashboardPage *dashboard() const { return dashboard_; }
     [[nodiscard]] HistoryPage *history() const { return history_; }
+    [[nodiscard]] LightingPage *lighting() const { return lighting_; }
     [[nodiscard]] AlarmsPage *alarms() const { return alarms_; }
     /// Stands on the dashboard; the navigation counts what it shows.
     [[nodiscard]] AlarmBanner *alarmBanner() const { return alarmBanner_; }
@@ -61,6 +63,7 @@ private:
     AlarmBanner *alarmBanner_;
     DashboardPage *dashboard_;
     HistoryPage *history_;
+    LightingPage *lighting_;
     AlarmsPage *alarms_;
 };
 

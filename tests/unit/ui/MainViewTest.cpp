@@ -6,9 +6,12 @@
 #include "ui/ArcGauge.h"
 #include "ui/DashboardPage.h"
 #include "ui/HistoryPage.h"
+#include "ui/LightingOptions.h"
+#include "ui/LightingPage.h"
 #include "ui/NavigationRail.h"
 #include "ui/TitleBar.h"
 #include "ui/WindowFrame.h"
+#include "ui/ZpsCirqDuo_Widget.h"
 #include "UiFixture.h"
 
 #include <QApplication>
@@ -111,6 +114,17 @@ TEST_F(MainViewTest, NothingIsCutAtAnySize) {
             expectFit(" on page " + std::to_string(static_cast<int>(page)) + ", width " +
                       std::to_string(size.width()));
         }
+        view_.showPage(MainView::Page::Lighting);
+        view_.lighting()->setReachable(false);
+        view_.lighting()->options()->showState({2, false, false, false});
+        view_.lighting()->duo()->showSound(ZpsCirqDuo_Widget::SoundState::NoDevice);
+        using Ring = LightingPage::Ring;
+        for (const Ring ring : {Ring::None, Ring::Single, Ring::Plus, Ring::Duo}) {
+            view_.lighting()->setRing(ring);
+            settle();
+            expectFit(" lighting, ring " + std::to_string(static_cast<int>(ring)) + ", width " +
+                      std::to_string(size.width()));
+        }
         view_.showPage(MainView::Page::Dashboard);
     }
 }
@@ -161,7 +175,7 @@ TEST_F(MainViewTest, AllWaysLeadToThePages) {
     logButton->setFocus();
     logButton->click();
     EXPECT_EQ(view->page(), MainView::Page::Alarms);
-    EXPECT_EQ(view->navigation()->current(), 2);
+    EXPECT_EQ(view->navigation()->current(), static_cast<int>(MainView::Page::Alarms));
     EXPECT_TRUE(table->isVisible());
     EXPECT_TRUE(table->isEnabled()) << "the log can be read without a supply";
     EXPECT_EQ(QApplication::focusWidget(), view) << "the page comes with no control marked";
@@ -171,12 +185,16 @@ TEST_F(MainViewTest, AllWaysLeadToThePages) {
     QTest::keyClick(view, Qt::Key_2, Qt::ControlModifier);
     EXPECT_TRUE(view->history()->isVisible());
     EXPECT_TRUE(view->history()->isEnabled()) << "what was recorded can be seen without a supply";
-    EXPECT_EQ(shown,
-              (std::vector{MainView::Page::Alarms, MainView::Page::Dashboard, MainView::Page::History}));
+    QTest::keyClick(view, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_TRUE(view->lighting()->isVisible());
+    EXPECT_TRUE(view->lighting()->isEnabled()) << "the lights can be set without a supply";
+    EXPECT_EQ(shown, (std::vector{MainView::Page::Alarms, MainView::Page::Dashboard, MainView::Page::History,
+                                  MainView::Page::Lighting}));
 }
 
 TEST_F(MainViewTest, TheNavigationCountsTheAlarmsThatHold) {
-    const auto *button = view_.navigation()->findChildren<QAbstractButton *>().at(2);
+    const auto *button =
+        view_.navigation()->findChildren<QAbstractButton *>().at(static_cast<int>(MainView::Page::Alarms));
     const QString quiet = button->accessibleName();
     alarm(view_, 3);
     EXPECT_TRUE(button->accessibleName().contains(QLatin1Char('3')));

@@ -1,6 +1,9 @@
 // Every key that the program asks for has an English text, and the texts take what the program puts into
 // them.
 
+#include "lighting/Effects.h"
+#include "lighting/LightingState.h"
+
 #include <gtest/gtest.h>
 
 #include <QDirIterator>
@@ -60,7 +63,7 @@ TEST(TranslationKeys, EveryKeyHasAnEnglishText) {
     const auto texts = englishTexts();
     const QSet<QString> keys = keysInSources();
     ASSERT_GT(keys.size(), 20) << "the search finds the calls";
-    static const QRegularExpression shape(QStringLiteral("^[A-Z]+(_[A-Z0-9]+)+$"));
+    static const QRegularExpression shape(QStringLiteral("^[A-Z]+(_[A-Za-z0-9]+)+$"));
     for (const QString &key : keys) {
         EXPECT_TRUE(shape.match(key).hasMatch()) << qPrintable(key);
         EXPECT_FALSE(texts.value(key).isEmpty()) << qPrintable(key);
@@ -68,6 +71,21 @@ TEST(TranslationKeys, EveryKeyHasAnEnglishText) {
     for (const char *key : {"TRAYICON_NAME", "TRAYICON_LAUNCH", "TRAYICON_EXIT"}) {
         EXPECT_FALSE(texts.value(QString::fromLatin1(key)).isEmpty()) << key;
     }
+}
+
+TEST(TranslationKeys, EveryNameOfALightModeHasAnEnglishText) {
+    const auto texts = englishTexts();
+    const auto expectTexts = [&texts](const auto &rows) {
+        for (const auto &row : rows) {
+            if (row.textKey != nullptr) {
+                EXPECT_FALSE(texts.value(QString::fromLatin1(row.textKey)).isEmpty()) << row.textKey;
+            }
+        }
+    };
+    expectTexts(lighting::kSingleLightModes);
+    expectTexts(lighting::kPlusLightModes);
+    expectTexts(lighting::kSpeeds);
+    expectTexts(lighting::duoEffects());
 }
 
 TEST(TranslationKeys, TextsHaveThePlacesForTheirFigures) {
