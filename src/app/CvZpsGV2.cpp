@@ -2,12 +2,12 @@
 
 #include "app/DaySettings.h"
 #include "app/HistoryFeed.h"
+#include "app/LightingFeed.h"
 #include "app/Logging.h"
 #include "app/ViewFeed.h"
 #include "platform/DeviceAccess.h"
 #include "platform/NativeEvent.h"
 #include "sensors/pcInfoReader.h"
-#include "ui/AlarmText.h"
 #include "ui/DashboardPage.h"
 #include "ui/MainView.h"
 #include "ui/TitleBar.h"
@@ -15,7 +15,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QMenu>
 #include <QMessageBox>
 
 namespace zpsg::app {
@@ -34,6 +33,7 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , demo_(parts.demo)
     , settings_(paths_.data)
     , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
+    , lighting_(supply_, settings_)
     , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
     , day_(dayStorage(settings_))
     , recorder_(settings_, paths_.data, paths_.resources, parts.random)
@@ -106,7 +106,7 @@ void CvZpsGV2::changeLanguage() {
 
 void CvZpsGV2::resetLanguage() {
     changeLanguage();
-    retranslate();
+    tray_->retranslate();
 }
 
 void CvZpsGV2::connectTitleBar() {
@@ -120,32 +120,28 @@ void CvZpsGV2::connectTitleBar() {
 }
 
 void CvZpsGV2::createTray() {
-    trayMenu_ = new QMenu(this);
-    connect(trayMenu_->addAction(QString()), &QAction::triggered, this, &QWidget::showNormal);
-    connect(trayMenu_->addAction(QString()), &QAction::triggered, qApp, &QCoreApplication::quit);
-    tray_ = new QSystemTrayIcon(windowIcon(), this);
-    tray_->setContextMenu(trayMenu_);
-    connect(tray_, &QSystemTrayIcon::activated, this, &CvZpsGV2::iconActivated);
-    connect(tray_, &QSystemTrayIcon::messageClicked, this, &CvZpsGV2::showAgain);
-    retranslate();
-    tray_->show();
-}
-
-void CvZpsGV2::retranslate() {
-    tray_->setToolTip(qtTrId("TRAYICON_NAME"));
-    trayMenu_->actions().at(0)->setText(qtTrId("TRAYICON_LAUNCH"));
-    trayMenu_->actions().at(1)->setText(qtTrId("TRAYICON_EXIT"));
+    tray_ = std::make_unique<Tray>(windowIcon());
+    connect(tray_.get(), &Tray::launchRequested, this, &QWidget::showNormal);
+    connect(tray_.get(), &Tray::exitRequested, qApp, &QCoreApplication::quit);
+    connect(tray_.get(), &Tray::activated, this, &CvZpsGV2::iconActivated);
+    connect(tray_.get(), &Tray::messageClicked, this, &CvZpsGV2::showAgain);
+    connect(&alarms_, &Alarms::began, tray_.get(), &Tray::tellAlarm);
+    connect(&recorder_, &Recorder::recordingFailed, tray_.get(), &Tray::tellRecordingFailed);
 }
 
 void CvZpsGV2::createServices() {
     auto *monitor = &supply_.monitor();
-    connect(monitor, &psu::SupplyMonitor::message, this, &CvZpsGV2::showMessage);
+    connect(monitor, &psu::SupplyMonitor::message, this,
+            [this](const QString &text) { showMessage(text, QStringLiteral("Message")); });
     connect(monitor, &psu::SupplyMonitor::reconnectDue, this, &CvZpsGV2::deviceChanged, Qt::QueuedConnection);
     connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::takeSample);
-    connect(&alarms_, &Alarms::began, this, &CvZpsGV2::tellAlarm);
-    connect(&recorder_, &Recorder::recordingFailed, this, &CvZpsGV2::tellRecordingFailed);
+    connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::thermalMode12LEDSlot);
+    connect(&alarms_, &Alarms::changed, this, &CvZpsGV2::takeAlarms);
+    connect(&lighting_, &Lighting::missingFile, this, &CvZpsGV2::tellMissingLightingFile);
     deviceWatch_ =
         platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
+    sessionWatch_ = platform::SessionWatch::start(
+        [this](platform::SessionEvent event) { lighting_.sessionEvent(event); });
 }
 
 void CvZpsGV2::setUpPages() {
@@ -155,6 +151,7 @@ void CvZpsGV2::setUpPages() {
         QString::fromStdString(platform::deviceAccessRemedy(paths_.resources.toStdString())));
     new HistoryFeed(
         recorder_, paths_.data, [this] { return now(); }, *view_->history(), this);
+    new LightingFeed(lighting_, supply_, *view_->lighting(), this);
     feed_ = new ViewFeed(supply_, alarms_, day_, settings_, *view_, random_, this);
     view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
     day_.loadDayProfile(now().date());
@@ -208,6 +205,7 @@ void CvZpsGV2::demoInfo() {
     if (monitor().hasReading()) {
         feed_->takeReading(now());
     }
+    lighting_.takeReading();
 }
 
 void CvZpsGV2::ClockTick() {
@@ -250,16 +248,28 @@ void CvZpsGV2::takeSample() {
     }
 }
 
-void CvZpsGV2::tellAlarm(const psu::AlarmEntry &entry) {
-    tray_->showMessage(ui::alarmTitle(entry.kind),
-                       ui::alarmValue(entry.kind, entry.value) + QLatin1Char('\n') +
-                           ui::alarmAdvice(entry.kind),
-                       QSystemTrayIcon::Warning);
+void CvZpsGV2::takeAlarms() { lighting_.setAlarmHolds(!alarms_.log().holding().empty()); }
+
+void CvZpsGV2::ZpsCirqLightModelSelected(const QStringList &chosen) {
+    lighting_.changeLightMode(chosen.value(0).toInt());
 }
 
-void CvZpsGV2::tellRecordingFailed() {
-    tray_->showMessage(qtTrId("TRAYICON_NOT_RECORDED"), qtTrId("TRAYICON_NOT_RECORDED_HINT"),
-                       QSystemTrayIcon::Warning);
+void CvZpsGV2::getFunctionSelected_LightMode(const QStringList &chosen) {
+    lighting_.choosePlus(&lighting::PlusRingState::lightMode, chosen.value(0).toInt());
+}
+
+void CvZpsGV2::getFunctionSelected_ColorMode(const QStringList &chosen) {
+    lighting_.choosePlus(&lighting::PlusRingState::colourMode, chosen.value(0).toInt());
+}
+
+void CvZpsGV2::getFunctionSelected_SpeedMode(const QStringList &chosen) {
+    lighting_.choosePlus(&lighting::PlusRingState::lightSpeed, chosen.value(0).toInt());
+}
+
+void CvZpsGV2::showLightingPage() { view_->showPage(ui::MainView::Page::Lighting); }
+
+void CvZpsGV2::tellMissingLightingFile() {
+    showMessage(QStringLiteral("config_12LED.ini，檔案不存在"), QStringLiteral("ErrorMessage"));
 }
 
 bool CvZpsGV2::windowMessage(const WindowMessage &message) {
@@ -285,7 +295,7 @@ bool CvZpsGV2::setLightingSync(bool on, const QString &modeText) {
     if (supply_.profile().seriesCode != kDuoRing) {
         return false;
     }
-    lightingSync_ = {on, modeText};
+    lighting_.setSync(on, modeText);
     return true;
 }
 
@@ -322,9 +332,8 @@ void CvZpsGV2::iconActivated(QSystemTrayIcon::ActivationReason reason) {
     }
 }
 
-void CvZpsGV2::showMessage(const QString &text) {
-    auto *box =
-        new QMessageBox(QMessageBox::Information, QStringLiteral("Message"), text, QMessageBox::Ok, this);
+void CvZpsGV2::showMessage(const QString &text, const QString &title) {
+    auto *box = new QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open(); // not exec(): the supply is read on while the box stands
 }

@@ -4,13 +4,16 @@
 #pragma once
 
 #include "app/Alarms.h"
+#include "app/Lighting.h"
 #include "app/Paths.h"
 #include "app/Recorder.h"
 #include "app/Settings.h"
 #include "app/Supply.h"
+#include "app/Tray.h"
 #include "app/Uploader.h"
 #include "platform/Autostart.h"
 #include "platform/DeviceWatch.h"
+#include "platform/SessionWatch.h"
 #include "platform/WindowRendezvous.h"
 #include "power/DayProfile.h"
 #include "power/Efficiency.h"
@@ -18,7 +21,6 @@
 
 #include <QMainWindow>
 #include <QRandomGenerator>
-#include <QSystemTrayIcon>
 #include <QThread>
 #include <QTimer>
 #include <QTranslator>
@@ -26,7 +28,6 @@
 
 #include <memory>
 
-class QMenu;
 class QNetworkReply;
 
 namespace zpsg::sensors {
@@ -119,31 +120,31 @@ public slots:
     void aboutSubmit() {}
     void msgFrommessageDE(const QString &) {}
     void msgLockThisEnterSN(const QString &) {}
-    void saveLED() {}
+    void saveLED() { lighting_.saveLED(); }
     void connectOfficWeb() {}
     void clearStorageList() {}
     void ZpsCirqPlusCustomFansModeSelected(const QStringList &) {}
     void ZpsCirqCustomFansModeSelected(const QStringList &) {}
     void iconActivated(QSystemTrayIcon::ActivationReason reason);
-    void ZpsCirqRGBChange(const QStringList &) {}
-    void ZpsCirqBrightChange(int) {}
-    void ZpsCirqTurnOff(bool) {}
-    void zpsCirqSelfBlink() {}
-    void zpsCirqAutoBlink() {}
-    void zpsCirqLightModelChange(int) {}
+    void ZpsCirqRGBChange(const QStringList &rgb) { lighting_.changeColour(rgb); }
+    void ZpsCirqBrightChange(int percent) { lighting_.changeBrightness(percent); }
+    void ZpsCirqTurnOff(bool off) { lighting_.turnOff(off); }
+    void zpsCirqSelfBlink() { lighting_.selfBlink(); }
+    void zpsCirqAutoBlink() { lighting_.autoBlink(); }
+    void zpsCirqLightModelChange(int mode) { lighting_.changeLightMode(mode); }
     void messageFromSocketHelper(const QByteArray &) {}
     void messageFromSocketHelper_LightOnClick(const QByteArray &) {}
     void messageFromSocketHelper_LightModel(const QVariantMap &) {}
     void messageFromSocketHelper_RGBA(const QVariantMap &) {}
     void messageFromSocketHelper_Music(const QVariantMap &) {}
-    void ZpsCirqLightModelSelected(const QStringList &) {}
-    void HTMLColorSelect() {}
-    void popLightModel() {}
-    void popColorModel() {}
-    void popSpeedModel() {}
-    void getFunctionSelected_LightMode(const QStringList &) {}
-    void getFunctionSelected_ColorMode(const QStringList &) {}
-    void getFunctionSelected_SpeedMode(const QStringList &) {}
+    void ZpsCirqLightModelSelected(const QStringList &chosen);
+    void HTMLColorSelect() { showLightingPage(); }
+    void popLightModel() { showLightingPage(); }
+    void popColorModel() { showLightingPage(); }
+    void popSpeedModel() { showLightingPage(); }
+    void getFunctionSelected_LightMode(const QStringList &chosen);
+    void getFunctionSelected_ColorMode(const QStringList &chosen);
+    void getFunctionSelected_SpeedMode(const QStringList &chosen);
     void messageFromSocketHelper_setupLight(const QVariantMap &) {}
     void messageFromSocketHelper_setLightOn(const QVariantMap &) {}
     void messageFromSocketHelper_setDefault(const QVariantMap &) {}
@@ -153,7 +154,7 @@ public slots:
     void messageFromSocketHelper_Fan_Sync(const QVariantMap &) {}
     void messageFromSocketHelper_startHelloCV() {}
     void messageFromSocketHelper_stopHelloCV() {}
-    void thermalMode12LEDSlot() {}
+    void thermalMode12LEDSlot() { lighting_.thermalUpdate(); }
     void popUpFanModel() {}
     void fansModeSelected(const QStringList &) {}
     void tempUnitSelected(const QStringList &) {}
@@ -180,10 +181,6 @@ protected:
 
 private:
     static constexpr int kDuoRing = 2;
-    struct LightingSync {
-        bool on = false;
-        QString modeText;
-    };
 
     // The steps of construction, in order.
     void buildWindow();
@@ -202,22 +199,23 @@ private:
     void showAgain();
     void leaveScreen();
     bool setLightingSync(bool on, const QString &modeText);
-    void showMessage(const QString &text);
-    void tellAlarm(const psu::AlarmEntry &entry);
+    void showMessage(const QString &text, const QString &title);
+    void showLightingPage();
+    void tellMissingLightingFile();
+    void takeAlarms();
     void takeSample();
-    void tellRecordingFailed();
     void startFastClock(int factor);
     void passFastMinute();
     [[nodiscard]] QString serialNumber() const;
     [[nodiscard]] QDateTime now() const {
         return fastClock_ ? fastClock_->now() : QDateTime::currentDateTime();
     }
-    void retranslate();
 
     Paths paths_;
     bool demo_;
     Settings settings_;
     Supply supply_;
+    Lighting lighting_;
     Alarms alarms_;
     power::DayProfile day_;
     Recorder recorder_;
@@ -228,14 +226,13 @@ private:
     QTranslator translator_;
     ui::MainView *view_ = nullptr; // owned by the window
     ViewFeed *feed_ = nullptr;     // owned by the window
-    QSystemTrayIcon *tray_ = nullptr;
-    QMenu *trayMenu_ = nullptr;
+    std::unique_ptr<Tray> tray_;
     QTimer *readTimer_ = nullptr;
     QThread sensorThread_;
     std::unique_ptr<sensors::pcInfoReader> sensors_;
     std::unique_ptr<QTimer> sensorTimer_; // without parent: it lives in the sensor thread
     std::unique_ptr<platform::DeviceWatch> deviceWatch_;
-    LightingSync lightingSync_;
+    std::unique_ptr<platform::SessionWatch> sessionWatch_;
 };
 
 } // namespace zpsg::app

@@ -8,16 +8,54 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zpsg::app {
 namespace {
 
 constexpr const char *kIniCodec = "UTF-8";
 
+/// A number within the row's range; `fallback` stands in for none. What had to be mended is told.
+double fittedNumber(const SettingRow &row, const QString &text, double fallback) {
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    double fitting = fallback;
+    if (isNumber && std::isfinite(number)) {
+        const double inside = std::clamp(number, row.lowest, row.highest);
+        fitting = row.type == SettingType::Choice && inside != number ? fallback : inside;
+    }
+    if (!isNumber || fitting != number) {
+        qCDebug(lcApp).noquote() << row.key << "holds" << text << "and is taken as" << fitting;
+    }
+    return row.type == SettingType::Real ? fitting : std::trunc(fitting);
+}
+
+/// What a list in a file comes as: a text of entries, or, without quotes, a list of texts.
+QStringList entriesOf(const QVariant &value) {
+    const QStringList parts = value.toStringList();
+    return parts.join(QLatin1Char(',')).split(QLatin1Char(','));
+}
+
+QString fittedEntries(const SettingRow &row, const QVariant &value) {
+    const QStringList given = entriesOf(value);
+    const QStringList fallback = QString::fromLatin1(row.fallback).split(QLatin1Char(','));
+    if (given.size() != row.entries) {
+        qCDebug(lcApp) << row.key << "has" << given.size() << "entries instead of" << row.entries;
+    }
+    QStringList entries;
+    for (int i = 0; i < row.entries; ++i) {
+        const double instead = fallback.at(i).toDouble();
+        entries << QString::number(fittedNumber(row, given.value(i), instead), 'g', 6);
+    }
+    return entries.join(QLatin1Char(','));
+}
+
 /// The value as its row's type, within its row's range; the default when it is not of that type.
 QVariant fitted(const SettingRow &row, const QVariant &value) {
     QVariant fallback(QString::fromLatin1(row.fallback));
-    bool ok = true;
+    if (row.entries > 0) {
+        return fittedEntries(row, value);
+    }
     switch (row.type) {
     case SettingType::Flag: {
         const QString word = value.toString().trimmed().toLower();
@@ -30,12 +68,9 @@ QVariant fitted(const SettingRow &row, const QVariant &value) {
         return fallback.toBool();
     }
     case SettingType::Integer:
+    case SettingType::Choice:
     case SettingType::Real: {
-        double number = value.toDouble(&ok);
-        if (!ok || number != number) {
-            number = fallback.toDouble();
-        }
-        number = std::clamp(number, row.lowest, row.highest);
+        const double number = fittedNumber(row, value.toString(), fallback.toDouble());
         return row.type == SettingType::Real ? QVariant(number) : QVariant(static_cast<int>(number));
     }
     case SettingType::List:
@@ -97,6 +132,14 @@ double Settings::real(Setting id) const { return value(id).toDouble(); }
 QString Settings::text(Setting id) const { return value(id).toString(); }
 
 QStringList Settings::list(Setting id) const { return value(id).toStringList(); }
+
+std::vector<double> Settings::numbers(Setting id) const {
+    const QStringList entries = text(id).split(QLatin1Char(','));
+    std::vector<double> numbers;
+    std::transform(entries.begin(), entries.end(), std::back_inserter(numbers),
+                   [](const QString &entry) { return entry.toDouble(); });
+    return numbers;
+}
 
 bool Settings::write(std::initializer_list<std::pair<Setting, QVariant>> values) {
     const SettingsFile where = row(values.begin()->first).file;

@@ -9,6 +9,7 @@
 
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 namespace zpsg::app {
 
@@ -24,6 +25,8 @@ public:
     [[nodiscard]] double real(Setting id) const;
     [[nodiscard]] QString text(Setting id) const;
     [[nodiscard]] QStringList list(Setting id) const;
+    /// Of a row with entries: that many numbers, each within the row's range.
+    [[nodiscard]] std::vector<double> numbers(Setting id) const;
 
     /// All values go into the file of the first, which must be the file of them all. False, with a warning
     /// once a file, when it can't be written; reading then still gives the new values until the program ends.

@@ -6,13 +6,21 @@
 
 namespace zpsg::app {
 
-enum class SettingsFile { General, Features, Clock, SaveFunction, VoltCheck };
+enum class SettingsFile { General, Features, Clock, SaveFunction, VoltCheck, Lighting };
 
 /// File names below the data directory, by SettingsFile.
-inline constexpr std::array kSettingsFileNames{"/config_ZPSG.ini", "/config_Features.ini", "/clockData.ini",
-                                               "/saveFunction.ini", "/voltCheck.ini"};
+inline constexpr std::array kSettingsFileNames{"/config_ZPSG.ini", "/config_Features.ini",
+                                               "/clockData.ini",   "/saveFunction.ini",
+                                               "/voltCheck.ini",   "/config_12LED.ini"};
 
-enum class SettingType { Flag, Integer, Real, Text, List };
+enum class SettingType {
+    Flag,
+    Integer, ///< a value outside its range is read and written as the nearer bound
+    Choice,  ///< an integer that numbers a thing: outside its range the default stands in
+    Real,    ///< as Integer
+    Text,
+    List,
+};
 
 enum class Setting {
     FanDuty,
@@ -42,10 +50,50 @@ enum class Setting {
     DayWatts,
     DayDate,
     SensorsEnabled,
+    SingleOff,
+    SingleColour,
+    SingleColourMode,
+    SingleBright,
+    PlusRed,
+    PlusGreen,
+    PlusBlue,
+    PlusBright,
+    PlusLightMode,
+    PlusColourMode,
+    PlusSpeed,
+    PlusOff,
+    DuoWritten,
+    DuoOn,
+    DuoLightMode,
+    DuoColourMode,
+    DuoSpeedMode,
+    DuoRed,
+    DuoSingleRed,
+    DuoGreen,
+    DuoSingleGreen,
+    DuoBlue,
+    DuoSingleBlue,
+    DuoBright,
+    DuoSingleBright,
+    SingleLightMode,
+    RingGauge,
+    RingSafePalette,
+    RingAlarm,
+    RingOffWhenLocked,
+    CustomFanDuty,
+    CustomFanPercent,
+    FanDataWritten,
+    FanCurveOn,
+    FanCurveSource,
+    FanCurveTemperature,
+    FanCurveLoad,
+    FanCurveHysteresis,
+    FanCurveMinSeconds,
     Count,
 };
 
-/// `lowest` and `highest` bound Integer and Real; a value outside is read and written as the nearer bound.
+/// `lowest` and `highest` bound numbers. A row with `entries` is a list of that many numbers of its type,
+/// kept as a text of them joined by ","; each entry that is missing or no number is taken from the default.
 struct SettingRow {
     Setting id;
     SettingsFile file;
@@ -54,6 +102,7 @@ struct SettingRow {
     const char *fallback;
     double lowest = 0.0;
     double highest = 0.0;
+    int entries = 0;
 };
 
 inline constexpr double kManyMinutes = 1e9; // some 1900 years
@@ -61,7 +110,8 @@ inline constexpr double kManyFiles = 1e9;
 inline constexpr double kManyUnits = 1e12; // kWh or money
 
 inline constexpr std::array kSettingsTable{
-    SettingRow{Setting::FanDuty, SettingsFile::General, "/FanSetting/FanDuty", SettingType::Integer, "0", 0,
+    // the fan's mode; -1 while none was chosen
+    SettingRow{Setting::FanDuty, SettingsFile::General, "/FanSetting/FanDuty", SettingType::Integer, "-1", -1,
                3},
     SettingRow{Setting::Login, SettingsFile::General, "/Setting/LOGIN", SettingType::Flag, "false"},
     SettingRow{Setting::AskLogin, SettingsFile::General, "/Setting/AskLogin", SettingType::Flag, "true"},
@@ -111,6 +161,87 @@ inline constexpr std::array kSettingsTable{
     SettingRow{Setting::DayDate, SettingsFile::Clock, "/TimeData/Date", SettingType::Text, ""}, // MM-dd
     SettingRow{Setting::SensorsEnabled, SettingsFile::Features, "/Features/PcSensors", SettingType::Flag,
                "false"},
+    // The lights. Colours are 0 to 255, brightness of a single-colour ring is in percent, of the others a
+    // factor.
+    SettingRow{Setting::SingleOff, SettingsFile::Lighting, "/single_LED_Color/isTurnOffLed",
+               SettingType::Flag, "false"},
+    SettingRow{Setting::SingleColour, SettingsFile::Lighting, "/single_LED_Color/COLOR_RGB",
+               SettingType::Integer, "0,127,255", 0, 255, 3},
+    SettingRow{Setting::SingleColourMode, SettingsFile::Lighting, "/single_LED_Color/colorMode",
+               SettingType::Choice, "0", 0, 1},
+    SettingRow{Setting::SingleBright, SettingsFile::Lighting, "/single_LED_Color/Bright",
+               SettingType::Integer, "100", 0, 100},
+    SettingRow{Setting::PlusRed, SettingsFile::Lighting, "/12LED_Color/RColor", SettingType::Integer,
+               "0,0,0,0,127,255,255,255,255,255,127,0,0", 0, 255, 13},
+    SettingRow{Setting::PlusGreen, SettingsFile::Lighting, "/12LED_Color/GColor", SettingType::Integer,
+               "127,255,255,255,255,255,127,0,0,0,0,0,127", 0, 255, 13},
+    SettingRow{Setting::PlusBlue, SettingsFile::Lighting, "/12LED_Color/BColor", SettingType::Integer,
+               "255,255,127,0,0,0,0,0,127,255,255,255,255", 0, 255, 13},
+    SettingRow{Setting::PlusBright, SettingsFile::Lighting, "/12LED_Color/Bright", SettingType::Real,
+               "1,1,1,1,1,1,1,1,1,1,1,1,1", 0, 1, 13},
+    SettingRow{Setting::PlusLightMode, SettingsFile::Lighting, "/12LED_Color/lightMode", SettingType::Choice,
+               "0", 0, 7},
+    SettingRow{Setting::PlusColourMode, SettingsFile::Lighting, "/12LED_Color/colorMode", SettingType::Choice,
+               "0", 0, 1},
+    SettingRow{Setting::PlusSpeed, SettingsFile::Lighting, "/12LED_Color/lightSpeed", SettingType::Choice,
+               "2", 0, 3},
+    SettingRow{Setting::PlusOff, SettingsFile::Lighting, "/12LED_Color/isTurnOffLed", SettingType::Flag,
+               "false"},
+    SettingRow{Setting::DuoWritten, SettingsFile::Lighting, "/18LED_Color/isWriteData", SettingType::Flag,
+               "false"},
+    SettingRow{Setting::DuoOn, SettingsFile::Lighting, "/18LED_Color/isLEDTurnOn", SettingType::Flag, "true"},
+    SettingRow{Setting::DuoLightMode, SettingsFile::Lighting, "/18LED_Color/lightMode", SettingType::Choice,
+               "0,0", 0, 20, 2},
+    SettingRow{Setting::DuoColourMode, SettingsFile::Lighting, "/18LED_Color/colorMode", SettingType::Choice,
+               "0,0", 0, 1, 2},
+    SettingRow{Setting::DuoSpeedMode, SettingsFile::Lighting, "/18LED_Color/speedMode", SettingType::Choice,
+               "0,0", 0, 3, 2},
+    SettingRow{Setting::DuoRed, SettingsFile::Lighting, "/18LED_Color/RColor", SettingType::Integer,
+               "0,0,0,0,127,255,255,255,255,255,127,0,0,0,0,0,127,255,255,255,255,255,127,0", 0, 255, 24},
+    SettingRow{Setting::DuoSingleRed, SettingsFile::Lighting, "/18LED_Color/SingleRColor",
+               SettingType::Integer, "255,0", 0, 255, 2},
+    SettingRow{Setting::DuoGreen, SettingsFile::Lighting, "/18LED_Color/GColor", SettingType::Integer,
+               "127,255,255,255,255,255,127,0,0,0,0,0,127,255,255,255,255,255,127,0,0,0,0,0", 0, 255, 24},
+    SettingRow{Setting::DuoSingleGreen, SettingsFile::Lighting, "/18LED_Color/SingleGColor",
+               SettingType::Integer, "0,255", 0, 255, 2},
+    SettingRow{Setting::DuoBlue, SettingsFile::Lighting, "/18LED_Color/BColor", SettingType::Integer,
+               "255,255,127,0,0,0,0,0,127,255,255,255,255,255,127,0,0,0,0,0,127,255,255,255", 0, 255, 24},
+    SettingRow{Setting::DuoSingleBlue, SettingsFile::Lighting, "/18LED_Color/SingleBColor",
+               SettingType::Integer, "0,0", 0, 255, 2},
+    SettingRow{Setting::DuoBright, SettingsFile::Lighting, "/18LED_Color/Bright", SettingType::Real,
+               "1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1", 0, 1, 24},
+    SettingRow{Setting::DuoSingleBright, SettingsFile::Lighting, "/18LED_Color/SingleBright",
+               SettingType::Real, "1,1", 0, 1, 2},
+    SettingRow{Setting::SingleLightMode, SettingsFile::SaveFunction, "/Lighting/SingleLightMode",
+               SettingType::Choice, "0", 0, 3},
+    // what is shown on the ring: 0 its effect, 1 the load, 2 the temperature
+    SettingRow{Setting::RingGauge, SettingsFile::SaveFunction, "/Lighting/Gauge", SettingType::Choice, "0", 0,
+               2},
+    SettingRow{Setting::RingSafePalette, SettingsFile::SaveFunction, "/Lighting/ColourBlindSafe",
+               SettingType::Flag, "false"},
+    SettingRow{Setting::RingAlarm, SettingsFile::SaveFunction, "/Lighting/AlarmOnRing", SettingType::Flag,
+               "true"},
+    SettingRow{Setting::RingOffWhenLocked, SettingsFile::SaveFunction, "/Lighting/OffWhenLocked",
+               SettingType::Flag, "true"},
+    // The fan with addressable lights: its mode as above, and the speed of Custom in percent.
+    SettingRow{Setting::CustomFanDuty, SettingsFile::General, "/CustomFanSetting/CustomFanDuty",
+               SettingType::Integer, "-1", -1, 3},
+    SettingRow{Setting::CustomFanPercent, SettingsFile::General, "/CustomFanSetting/customFanSpeedPercent",
+               SettingType::Integer, "60", 30, 100},
+    SettingRow{Setting::FanDataWritten, SettingsFile::General, "/CustomFanSetting/isWriteFanData",
+               SettingType::Flag, "false"},
+    SettingRow{Setting::FanCurveOn, SettingsFile::SaveFunction, "/FanCurve/On", SettingType::Flag, "false"},
+    // 0 temperature, 1 load
+    SettingRow{Setting::FanCurveSource, SettingsFile::SaveFunction, "/FanCurve/Source", SettingType::Choice,
+               "0", 0, 1},
+    // degrees Celsius or percent of load, and percent of speed: "30:30 56:100"
+    SettingRow{Setting::FanCurveTemperature, SettingsFile::SaveFunction, "/FanCurve/Temperature",
+               SettingType::Text, ""},
+    SettingRow{Setting::FanCurveLoad, SettingsFile::SaveFunction, "/FanCurve/Load", SettingType::Text, ""},
+    SettingRow{Setting::FanCurveHysteresis, SettingsFile::SaveFunction, "/FanCurve/Hysteresis",
+               SettingType::Integer, "3", 0, 15},
+    SettingRow{Setting::FanCurveMinSeconds, SettingsFile::SaveFunction, "/FanCurve/MinSeconds",
+               SettingType::Integer, "10", 2, 120},
 };
 
 constexpr bool settingsTableIsComplete() {

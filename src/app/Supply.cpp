@@ -30,6 +30,9 @@ bool Supply::connectPsu() {
     if (opened && !monitor_.identityKnown()) {
         monitor_.readModelText();
     }
+    if (opened) {
+        emit reopened();
+    }
     return opened;
 }
 

@@ -35,6 +35,8 @@ public:
 signals:
     /// The model was identified, or its curve loaded for the other mains voltage.
     void profileChanged();
+    /// The supply was opened again: what it is to do has to be sent again.
+    void reopened();
 
 private:
     void recognise();

@@ -61,12 +61,12 @@ TEST_F(SettingsTest, BadValuesBecomeTheNearestGoodOnes) {
         const char *line;
         int duty;
     };
-    for (const auto &[line, duty] : {Case{"FanDuty=2", 2}, Case{"FanDuty=-7", 0}, Case{"FanDuty=1e99", 3},
-                                     Case{"FanDuty=fast", 0}, Case{"FanDuty=", 0}, Case{"FanDuty=nan", 0},
-                                     Case{"FanDuty=1, 2, 3", 0}, Case{"FanDuty=@Invalid()", 0}}) {
+    for (const auto &[line, duty] : {Case{"FanDuty=2", 2}, Case{"FanDuty=-7", -1}, Case{"FanDuty=1e99", 3},
+                                     Case{"FanDuty=fast", -1}, Case{"FanDuty=", -1}, Case{"FanDuty=nan", -1},
+                                     Case{"FanDuty=1, 2, 3", -1}, Case{"FanDuty=@Invalid()", -1}}) {
         QFile::remove(
             general()); // the settings library takes a file of the same size and millisecond for the same
-        EXPECT_EQ(Settings(dir.path()).integer(Setting::FanDuty), 0);
+        EXPECT_EQ(Settings(dir.path()).integer(Setting::FanDuty), -1);
         put(QByteArray("[FanSetting]\n") + line + "\n");
         EXPECT_EQ(Settings(dir.path()).integer(Setting::FanDuty), duty) << line;
     }
