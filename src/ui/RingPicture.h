@@ -33,6 +33,8 @@ public:
     void setOff(bool off);
     void retranslate();
 
+    /// As set last.
+    [[nodiscard]] const std::vector<lighting::Colour> &leds() const { return leds_; }
     [[nodiscard]] std::size_t ledCount() const { return leds_.size(); }
     [[nodiscard]] bool isSelected(std::size_t led) const { return selected_.at(led); }
     [[nodiscard]] std::size_t selectedCount() const;

@@ -1,11 +1,18 @@
 #include "app/CvZpsGV2.h"
 #include "power/ModelTable.h"
 #include "simulator/SimulatedBus.h"
+#include "ui/LightingPage.h"
+#include "ui/RGB12LEDWidget.h"
+#include "ui/RingPicture.h"
+#include "ui/ZpsCirq.h"
+#include "ui/ZpsCirqDuo_Widget.h"
 
+#include <QMessageBox>
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -139,6 +146,69 @@ TEST_F(ControllerTest, ActsOnItsOwnMessagesOnly) {
     for (const std::uint32_t number : {0U, 536U, 9012U, 33024U, 33029U, 33026U, 33027U, 33028U}) {
         EXPECT_FALSE(window->windowMessage({number, 0, 0})) << number; // no Duo set is fitted
     }
+}
+
+// From the panel through the window to the supply, and back into the panel's picture.
+TEST_F(ControllerTest, ThePanelShowsWhatTheLedsOfTheSupplyHold) {
+    struct Case {
+        const char *model;
+        lighting::RingKind ring;
+    };
+    for (const auto &[model, ring] :
+         {Case{"CVD-0650-F", lighting::RingKind::Single}, Case{"CVG-0850-Z", lighting::RingKind::Plus},
+          Case{"CVX-1000-D", lighting::RingKind::Duo}}) {
+        SCOPED_TRACE(model);
+        bus->plug(simulator::SupplyModel(model));
+        const auto window = make();
+        window->show();
+        window->popLightModel();
+        auto *page = window->findChild<ui::LightingPage *>();
+        ui::RingPicture *picture = page->single()->picture();
+        if (ring == lighting::RingKind::Single) {
+            emit page->single()->colourChanged(
+                {QStringLiteral("200"), QStringLiteral("100"), QStringLiteral("50")});
+            emit page->single()->brightnessChanged(30);
+        } else if (ring == lighting::RingKind::Plus) {
+            lighting::PlusRingState state;
+            state.lightMode = lighting::kPlusFullLighted;
+            state.brightness[4] = 0.3F;
+            emit page->plus()->edited(state);
+            picture = page->plus()->picture();
+        } else {
+            lighting::DuoState state;
+            state.lightMode = {6, 6};
+            state.brightness[3] = 0.3;
+            emit page->duo()->edited(state);
+            picture = page->duo()->picture();
+        }
+        const auto same = [&] {
+            auto report = psu::makeRequest({0x30, 0x42});
+            bus->withModel([&report](simulator::SupplyModel &supply) {
+                std::copy(supply.ledFrame().begin(), supply.ledFrame().end(), report.begin() + 3);
+            });
+            const auto held = lighting::heldBy(report, ring)->colours;
+            const bool dark =
+                std::all_of(held.begin(), held.end(), [](auto led) { return led == lighting::kDark; });
+            return !dark && picture->leds() == held;
+        };
+        EXPECT_TRUE(QTest::qWaitFor(same));
+        if (ring == lighting::RingKind::Duo) {
+            EXPECT_TRUE(window->windowMessage({platform::kSyncOnByFans, 0, 0}));
+        }
+    }
+}
+
+TEST_F(ControllerTest, SaysThatTheLightingFileIsMissing) {
+    bus->plug(simulator::SupplyModel("CVG-0850-Z"));
+    const auto window = make();
+    window->saveLED();
+    EXPECT_EQ(window->findChild<QMessageBox *>(), nullptr);
+    QFile::remove(dir.filePath(QStringLiteral("config_12LED.ini")));
+    window->saveLED();
+    const auto *box = window->findChild<QMessageBox *>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("ErrorMessage"));
+    EXPECT_EQ(box->text(), QStringLiteral("config_12LED.ini，檔案不存在"));
 }
 
 TEST_F(ControllerTest, EndsWithTheSensorThreadRunning) {
