@@ -12,7 +12,7 @@ namespace zpsg::platform {
 inline constexpr std::chrono::seconds kAudioRetry{3};
 
 /// Tells each state once, and ends what was heard with silence: a system that has nothing to play hands on no
-/// samples at all, and what was heard last must not seem to go on. On the capture's thread.
+/// samples at all, and what was heard last must not seem to go on. One thread at a time.
 class AudioFeed {
 public:
     using Clock = std::chrono::steady_clock;
@@ -27,6 +27,9 @@ public:
         if (state != state_) {
             state_ = state;
             listener_.state(state);
+        }
+        while (state == AudioState::NoDevice && fading()) {
+            quiet(due_);
         }
     }
     void heard(std::span<const float> samples, Clock::time_point now) {

@@ -36,8 +36,7 @@ private:
             return;
         }
         while (!stop_) {
-            record(*pulse);
-            if (!stop_) {
+            if (record(*pulse) == PulseRecorder::End::Lost) {
                 feed_.tell(AudioState::NoDevice);
                 std::unique_lock lock(mutex_);
                 stopped_.wait_for(lock, kAudioRetry, [this] { return stop_.load(); });
@@ -45,11 +44,12 @@ private:
         }
     }
 
-    void record(const PulseLibrary &pulse) {
+    PulseRecorder::End record(const PulseLibrary &pulse) {
         PulseRecorder recorder(pulse, feed_);
         reachable(&recorder);
-        recorder.run(stop_);
+        const PulseRecorder::End end = recorder.run(stop_);
         reachable(nullptr);
+        return end;
     }
 
     void reachable(const PulseRecorder *recorder) {

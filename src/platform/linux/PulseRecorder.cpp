@@ -7,6 +7,9 @@ namespace {
 
 constexpr const char *kName = "ZPS G";                               // in the server's lists of who records
 constexpr std::uint32_t kFragment = kAudioRate / 50 * sizeof(float); // 20 ms
+// PipeWire begins the recording of an output that sleeps only when that has something to play. PulseAudio's
+// library gives up after 30 s.
+constexpr auto kPatience = std::chrono::seconds(1);
 constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
 constexpr pa_sample_spec kFormat{PA_SAMPLE_FLOAT32NE, kAudioRate, 1};
 constexpr pa_buffer_attr kBuffer{kServersChoice, kServersChoice, kServersChoice, kServersChoice, kFragment};
@@ -48,7 +51,7 @@ PulseRecorder::End PulseRecorder::run(const std::atomic<bool> &stop) {
             end_ = End::Lost;
         }
     }
-    if (end_) {
+    if (end_ == End::Lost) {
         qCDebug(lcPlatform, "no sound to follow: %s", pulse_.strerror(pulse_.context_errno(context_.get())));
     }
     return end_.value_or(End::Stopped);
@@ -61,16 +64,23 @@ void PulseRecorder::wake() const {
 }
 
 bool PulseRecorder::iterate() {
+    auto due = waiting_;
+    if (feed_.fading() && (!due || feed_.due() < *due)) {
+        due = feed_.due();
+    }
     int timeout = -1; // microseconds, or none
-    if (const auto at = due()) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*at - AudioFeed::Clock::now());
+    if (due) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*due - AudioFeed::Clock::now());
         timeout = static_cast<int>(std::max<std::int64_t>(left.count(), 0) * 1000);
     }
     const bool works = pulse_.mainloop_prepare(loop_.get(), timeout) >= 0 &&
                        pulse_.mainloop_poll(loop_.get()) >= 0 && pulse_.mainloop_dispatch(loop_.get()) >= 0;
     const auto now = AudioFeed::Clock::now();
     feed_.quiet(now);
-    patienceIsOver(now);
+    if (waiting_ && now >= *waiting_) {
+        waiting_.reset();
+        feed_.tell(AudioState::Running);
+    }
     return works;
 }
 
@@ -124,6 +134,10 @@ void PulseRecorder::record(const std::string &monitor) {
     if (stream_ != nullptr && monitor == monitor_) {
         return;
     }
+    if (stream_ != nullptr && !recording_) {
+        end_ = End::Renew; // what was asked for can't be taken back by itself
+        return;
+    }
     endStream();
     monitor_ = monitor;
     const std::unique_ptr<pa_proplist, decltype(&pa_proplist_free)> properties(pulse_.proplist_new(),
@@ -143,9 +157,11 @@ void PulseRecorder::record(const std::string &monitor) {
     if (pulse_.stream_connect_record(stream_, monitor.c_str(), &kBuffer, kFlags) < 0) {
         end_ = End::Lost;
     }
+    waiting_ = AudioFeed::Clock::now() + kPatience;
 }
 
 void PulseRecorder::endStream() {
+    waiting_.reset();
     if (stream_ == nullptr) {
         return;
     }
@@ -161,6 +177,7 @@ void PulseRecorder::streamChanged() {
     const pa_stream_state_t state = pulse_.stream_get_state(stream_);
     if (state == PA_STREAM_READY) {
         recording_ = true;
+        waiting_.reset();
         feed_.tell(AudioState::Running);
     } else if (!PA_STREAM_IS_GOOD(state)) {
         // A device that was unplugged ends its recording, and another is the default by then. One that can't
@@ -169,7 +186,8 @@ void PulseRecorder::streamChanged() {
             endStream();
             lookForOutput();
         } else {
-            end_ = End::Lost;
+            const bool timedOut = pulse_.context_errno(context_.get()) == PA_ERR_TIMEOUT;
+            end_ = timedOut ? End::Renew : End::Lost;
         }
     }
 }

@@ -19,18 +19,18 @@ public:
     PulseRecorder(const PulseRecorder &) = delete;
     PulseRecorder &operator=(const PulseRecorder &) = delete;
 
-    enum class End { Stopped, Lost, TimedOut };
-    /// Returns once `stop` is set and wake() called; when the server is gone or has no output; or when the
-    /// server has left the recording waiting for longer than its library does, which is no loss: the output
-    /// sleeps, and a new connection waits on.
+    enum class End {
+        Stopped,
+        Lost,  ///< no server or no output
+        Renew, ///< the output sleeps on, but only a new connection can wait for it any longer
+    };
+    /// Returns when it has ended, or once `stop` is set and wake() called.
     End run(const std::atomic<bool> &stop);
     /// From any thread.
     void wake() const;
 
 private:
     bool iterate();
-    [[nodiscard]] std::optional<AudioFeed::Clock::time_point> due() const;
-    void patienceIsOver(AudioFeed::Clock::time_point now);
     void contextChanged();
     void lookForOutput();
     void outputFound(const pa_sink_info *output, int end);
@@ -45,8 +45,9 @@ private:
     const std::unique_ptr<pa_context, decltype(&pa_context_unref)> context_;
     pa_stream *stream_ = nullptr; // owned
     std::string monitor_;         // what is recorded
-    AudioFeed::Clock::time_point asked_; // for the recording
     bool recording_ = false;
+    // When a recording that was asked for counts as waiting for its output to wake.
+    std::optional<AudioFeed::Clock::time_point> waiting_;
     std::optional<End> end_;
 };
 

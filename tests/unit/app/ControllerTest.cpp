@@ -159,6 +159,7 @@ TEST_F(ControllerTest, ThePanelShowsWhatTheLedsOfTheSupplyHold) {
           Case{"CVX-1000-D", lighting::RingKind::Duo}}) {
         SCOPED_TRACE(model);
         bus->plug(simulator::SupplyModel(model));
+        const auto kind = ring;
         const auto window = make();
         window->show();
         window->popLightModel();
@@ -186,7 +187,7 @@ TEST_F(ControllerTest, ThePanelShowsWhatTheLedsOfTheSupplyHold) {
             bus->withModel([&report](simulator::SupplyModel &supply) {
                 std::copy(supply.ledFrame().begin(), supply.ledFrame().end(), report.begin() + 3);
             });
-            const auto held = lighting::heldBy(report, ring)->colours;
+            const auto held = lighting::heldBy(report, kind)->colours;
             const bool dark =
                 std::all_of(held.begin(), held.end(), [](auto led) { return led == lighting::kDark; });
             return !dark && picture->leds() == held;

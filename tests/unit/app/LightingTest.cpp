@@ -136,13 +136,12 @@ TEST_F(LightingTest, TheSupplyGetsEveryReport) {
     state.lightSpeed = 2;
     lights->changePlus(state);
     const auto all = [](std::uint8_t code, std::uint8_t green, std::uint8_t red, std::uint8_t blue,
-                        int leds) {
+                        std::size_t leds) {
         auto report = makeRequest({0x30, 0x42, code});
-        for (int i = 0; i < leds; ++i) {
-            const auto at = static_cast<std::size_t>(4 + 3 * i);
-            report.at(at) = green;
-            report.at(at + 1) = red;
-            report.at(at + 2) = blue;
+        for (std::size_t i = 0; i < leds; ++i) {
+            report.at(4 + 3 * i) = green;
+            report.at(5 + 3 * i) = red;
+            report.at(6 + 3 * i) = blue;
         }
         return report;
     };

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <mutex>
 #include <numbers>
+#include <numeric>
 #include <optional>
 #include <QElapsedTimer>
 #include <QStandardPaths>
@@ -178,12 +179,6 @@ TEST_F(AudioCaptureTest, HearsWhatTheDefaultOutputPlaysAndFollowsIt) {
         SoundServer::makeDefault("second");
         EXPECT_TRUE(hears(8)) << "2500 Hz are between 1932 and 3050";
 
-        const std::size_t before = received_;
-        QElapsedTimer timer;
-        timer.start();
-        ASSERT_TRUE(loopUntil([&] { return received_ >= before + kAudioRate; }));
-        EXPECT_NEAR(static_cast<double>(timer.elapsed()), 1000, 400) << "48000 samples are a second";
-
         // The output is unplugged, and what plays goes on elsewhere.
         ASSERT_TRUE(SoundServer::control(QStringLiteral("unload-module 2")));
         analyser_.reset();
@@ -280,6 +275,11 @@ TEST(AudioFeedTest, ASecondOfSilenceFollowsWhatWasHeardLast) {
         feed.tell(state);
     }
     EXPECT_THAT(told, ElementsAre(AudioState::Running, AudioState::NoDevice));
+
+    sizes.clear();
+    feed.heard(std::vector<float>(10), now);
+    feed.tell(AudioState::NoDevice);
+    EXPECT_EQ(std::accumulate(sizes.begin(), sizes.end(), std::size_t{0}), 10 + kAudioRate) << "at once";
 }
 
 TEST(MonoMixTest, MixesAndResamplesHoweverItIsCutUp) {
