@@ -25,6 +25,8 @@ public:
     void setWarning(psu::AlarmGroup group, bool on);
     [[nodiscard]] bool warning(psu::AlarmGroup group) const;
     void clearLog();
+    /// Whether a fan that stands is as it should be, from the next reading on.
+    void expectStandingFan(bool expected) { supervisor_.expectStandingFan(expected); }
 
     [[nodiscard]] const psu::AlarmSupervisor &supervisor() const { return supervisor_; }
     [[nodiscard]] const psu::AlarmLog &log() const { return log_; }

@@ -1,6 +1,7 @@
 #include "app/CvZpsGV2.h"
 
 #include "app/DaySettings.h"
+#include "app/FanFeed.h"
 #include "app/HistoryFeed.h"
 #include "app/LightingFeed.h"
 #include "app/Logging.h"
@@ -34,6 +35,7 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , settings_(paths_.data)
     , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
     , lighting_(supply_, settings_)
+    , fan_(supply_, settings_)
     , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
     , day_(dayStorage(settings_))
     , recorder_(settings_, paths_.data, paths_.resources, parts.random)
@@ -140,8 +142,8 @@ void CvZpsGV2::createServices() {
     connect(&lighting_, &Lighting::missingFile, this, &CvZpsGV2::tellMissingLightingFile);
     deviceWatch_ =
         platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
-    sessionWatch_ = platform::SessionWatch::start(
-        [this](platform::SessionEvent event) { lighting_.sessionEvent(event); });
+    sessionWatch_ =
+        platform::SessionWatch::start([this](platform::SessionEvent event) { sessionEvent(event); });
 }
 
 void CvZpsGV2::setUpPages() {
@@ -152,6 +154,7 @@ void CvZpsGV2::setUpPages() {
     new HistoryFeed(
         recorder_, paths_.data, [this] { return now(); }, *view_->history(), this);
     new LightingFeed(lighting_, supply_, *view_->lighting(), this);
+    fanFeed_ = new FanFeed(fan_, supply_, *view_->fan(), this);
     feed_ = new ViewFeed(supply_, alarms_, day_, settings_, *view_, random_, this);
     view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
     day_.loadDayProfile(now().date());
@@ -202,10 +205,13 @@ void CvZpsGV2::alignAutostart() {
 }
 
 void CvZpsGV2::demoInfo() {
+    fan_.tick(std::chrono::steady_clock::now());
+    alarms_.expectStandingFan(fan_.mayStand());
     if (monitor().hasReading()) {
         feed_->takeReading(now());
     }
     lighting_.takeReading();
+    fanFeed_->takeReading(now().toMSecsSinceEpoch());
 }
 
 void CvZpsGV2::ClockTick() {
@@ -265,6 +271,15 @@ void CvZpsGV2::getFunctionSelected_ColorMode(const QStringList &chosen) {
 void CvZpsGV2::getFunctionSelected_SpeedMode(const QStringList &chosen) {
     lighting_.choosePlus(&lighting::PlusRingState::lightSpeed, chosen.value(0).toInt());
 }
+
+void CvZpsGV2::sessionEvent(platform::SessionEvent event) {
+    lighting_.sessionEvent(event);
+    if (event == platform::SessionEvent::Resumed) {
+        fan_.resend();
+    }
+}
+
+void CvZpsGV2::showFanPage() { view_->showPage(ui::MainView::Page::Fan); }
 
 void CvZpsGV2::showLightingPage() { view_->showPage(ui::MainView::Page::Lighting); }
 

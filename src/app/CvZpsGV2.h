@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/Alarms.h"
+#include "app/FanControl.h"
 #include "app/Lighting.h"
 #include "app/Paths.h"
 #include "app/Recorder.h"
@@ -50,6 +51,7 @@ struct WindowParts {
     power::RandomSource random = [] { return QRandomGenerator::global()->generate(); };
 };
 
+class FanFeed;
 class HistoryFeed;
 class ViewFeed;
 
@@ -97,7 +99,7 @@ signals:
     void closeThisMainApp(const QString &reason);
 
 public slots:
-    void controlableFanSpeed(int) {}
+    void controlableFanSpeed(int percent) { fan_.controlableFanSpeed(percent); }
     void hwinfoOpenFail(const QString &) {}
     void mqttAnalysis(const QString &) {}
     void tabChange() {}
@@ -123,8 +125,8 @@ public slots:
     void saveLED() { lighting_.saveLED(); }
     void connectOfficWeb() {}
     void clearStorageList() {}
-    void ZpsCirqPlusCustomFansModeSelected(const QStringList &) {}
-    void ZpsCirqCustomFansModeSelected(const QStringList &) {}
+    void ZpsCirqPlusCustomFansModeSelected(const QStringList &mode) { fan_.selectLightingFanMode(mode); }
+    void ZpsCirqCustomFansModeSelected(const QStringList &mode) { fan_.selectLightingFanMode(mode); }
     void iconActivated(QSystemTrayIcon::ActivationReason reason);
     void ZpsCirqRGBChange(const QStringList &rgb) { lighting_.changeColour(rgb); }
     void ZpsCirqBrightChange(int percent) { lighting_.changeBrightness(percent); }
@@ -155,8 +157,8 @@ public slots:
     void messageFromSocketHelper_startHelloCV() {}
     void messageFromSocketHelper_stopHelloCV() {}
     void thermalMode12LEDSlot() { lighting_.thermalUpdate(); }
-    void popUpFanModel() {}
-    void fansModeSelected(const QStringList &) {}
+    void popUpFanModel() { showFanPage(); }
+    void fansModeSelected(const QStringList &mode) { fan_.selectMode(mode); }
     void tempUnitSelected(const QStringList &) {}
     void shotDownCheck() {}
     void getMkeyFinishedSlot(QNetworkReply *) {}
@@ -201,6 +203,8 @@ private:
     bool setLightingSync(bool on, const QString &modeText);
     void showMessage(const QString &text, const QString &title);
     void showLightingPage();
+    void showFanPage();
+    void sessionEvent(platform::SessionEvent event);
     void tellMissingLightingFile();
     void takeAlarms();
     void takeSample();
@@ -216,6 +220,7 @@ private:
     Settings settings_;
     Supply supply_;
     Lighting lighting_;
+    FanControl fan_;
     Alarms alarms_;
     power::DayProfile day_;
     Recorder recorder_;
@@ -226,6 +231,7 @@ private:
     QTranslator translator_;
     ui::MainView *view_ = nullptr; // owned by the window
     ViewFeed *feed_ = nullptr;     // owned by the window
+    FanFeed *fanFeed_ = nullptr;   // owned by the window
     std::unique_ptr<Tray> tray_;
     QTimer *readTimer_ = nullptr;
     QThread sensorThread_;

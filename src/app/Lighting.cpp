@@ -20,11 +20,6 @@ std::size_t ledsOf(RingKind ring) {
     return ring == RingKind::Single ? 1 : ring == RingKind::Plus ? lighting::kPlusLeds : lighting::kDuoLeds;
 }
 
-std::optional<float> measured(const psu::TelemetryRecord &record, const char *key) {
-    const QString name = QString::fromLatin1(key);
-    return record.measured(name) ? std::optional<float>(record.number(name)) : std::nullopt;
-}
-
 } // namespace
 
 Lighting::Lighting(Supply &supply, Settings &settings, QObject *parent)
@@ -173,7 +168,7 @@ void Lighting::takeLinkState(psu::LinkState state) {
 }
 
 void Lighting::thermalUpdate() {
-    if (const auto celsius = measured(supply_.monitor().record(), "Temp")) {
+    if (const auto celsius = supply_.fresh("Temp")) {
         plus_.thermalUpdate(*celsius);
     }
 }
@@ -224,12 +219,8 @@ void Lighting::setOverlayOptions(lighting::GaugeKind gauge, lighting::Palette pa
 }
 
 void Lighting::takeReading() {
-    const auto &monitor = supply_.monitor();
-    const bool fresh = monitor.hasReading() && monitor.state() == psu::LinkState::Live;
-    inputs_.celsius = fresh ? measured(monitor.record(), "Temp") : std::nullopt;
-    const auto watts = measured(monitor.record(), "WATTS");
-    const float rated = supply_.profile().ratedWatts;
-    inputs_.load = fresh && watts && rated > 0.0F ? std::optional<float>(*watts / rated) : std::nullopt;
+    inputs_.celsius = supply_.fresh("Temp");
+    inputs_.load = supply_.freshLoad();
     if (duoThread_) {
         duoThread_->setCelsius(inputs_.celsius);
     }

@@ -1,6 +1,8 @@
 #include "app/CvZpsGV2.h"
 #include "power/ModelTable.h"
 #include "simulator/SimulatedBus.h"
+#include "ui/CustomFanSpeedWidget.h"
+#include "ui/FanPage.h"
 #include "ui/LightingPage.h"
 #include "ui/RGB12LEDWidget.h"
 #include "ui/RingPicture.h"
@@ -197,6 +199,35 @@ TEST_F(ControllerTest, ThePanelShowsWhatTheLedsOfTheSupplyHold) {
             EXPECT_TRUE(window->windowMessage({platform::kSyncOnByFans, 0, 0}));
         }
     }
+}
+
+TEST_F(ControllerTest, TheFanObeysTheSlotsAndThePage) {
+    bus->plug(simulator::SupplyModel("CVX-1000-D"));
+    const auto window = make();
+    const auto fan = [&] {
+        EXPECT_TRUE(window->monitor().waitSent(std::chrono::seconds(5)));
+        simulator::FanMode mode{};
+        int percent = 0;
+        bus->withModel([&](simulator::SupplyModel &supply) {
+            mode = supply.fanMode();
+            percent = supply.customFanPercent();
+        });
+        return std::pair(mode, percent);
+    };
+    window->fansModeSelected({QStringLiteral("1")});
+    EXPECT_EQ(fan().first, simulator::FanMode::Performance);
+    window->ZpsCirqCustomFansModeSelected({QStringLiteral("2")});
+    EXPECT_EQ(fan().first, simulator::FanMode::ZeroFan);
+    auto *page = window->findChild<ui::FanPage *>();
+    emit page->modeChosen({QStringLiteral("0"), QStringLiteral("btnSlient")});
+    EXPECT_EQ(fan().first, simulator::FanMode::Silent);
+    window->controlableFanSpeed(12);
+    EXPECT_EQ(fan(), std::pair(simulator::FanMode::Custom, 30));
+    emit page->customSpeedChosen(80);
+    EXPECT_EQ(fan().second, 80);
+    window->fansModeSelected({QStringLiteral("3")});
+    EXPECT_TRUE(page->popup()->isVisibleTo(page)) << "asks for the speed";
+    EXPECT_EQ(fan().second, 80);
 }
 
 TEST_F(ControllerTest, SaysThatTheLightingFileIsMissing) {
