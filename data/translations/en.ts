@@ -1116,5 +1116,137 @@ While the supply is connected every minute is recorded, and today’s bar appear
         <source></source>
         <translation>Stack</translation>
     </message>
+    <message id="NAV_FAN">
+        <source></source>
+        <translation>Fan</translation>
+    </message>
+    <message id="FAN_PAGE_TITLE">
+        <source></source>
+        <translation>Fan</translation>
+    </message>
+    <message id="FAN_UNREACHABLE">
+        <source></source>
+        <translation>The supply is not connected. A mode that is chosen now is kept and set when it is back.</translation>
+    </message>
+    <message id="FAN_SPEED">
+        <source></source>
+        <translation>Speed</translation>
+    </message>
+    <message id="FAN_OF_FULL_SPEED">
+        <source></source>
+        <translation>%1 % of full speed</translation>
+    </message>
+    <message id="FAN_MODE">
+        <source></source>
+        <translation>Mode</translation>
+    </message>
+    <message id="FAN_MODE_CHOSEN">
+        <source></source>
+        <translation>%1 (chosen)</translation>
+    </message>
+    <message id="FAN_MODE_BY_CURVE">
+        <source></source>
+        <translation>set by the fan curve</translation>
+    </message>
+    <message id="FAN_CHOOSE_MODE">
+        <source></source>
+        <translation>Choose the fan's mode</translation>
+    </message>
+    <message id="FAN_TARGET_SPEED">
+        <source></source>
+        <translation>Target Fan Speed</translation>
+    </message>
+    <message id="FAN_TARGET_PERCENT">
+        <source></source>
+        <translation>Percent of the full speed, 30 to 100</translation>
+    </message>
+    <message id="FAN_TARGET_SET">
+        <source></source>
+        <translation>Set speed</translation>
+    </message>
+    <message id="FAN_CLOSE">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="FAN_LAST_HOUR">
+        <source></source>
+        <translation>Last hour</translation>
+    </message>
+    <message id="FAN_HOUR_EMPTY">
+        <source></source>
+        <translation>No readings in the last hour yet.</translation>
+    </message>
+    <message id="FAN_HOUR_SPOKEN">
+        <source></source>
+        <translation>Fan %1 to %2 rpm, temperature %3 to %4 °C</translation>
+    </message>
+    <message id="FAN_CURVE">
+        <source></source>
+        <translation>Fan curve</translation>
+    </message>
+    <message id="FAN_CURVE_OFF">
+        <source></source>
+        <translation>Off</translation>
+    </message>
+    <message id="FAN_CURVE_DRIVING">
+        <source></source>
+        <translation>Driving at %1 %</translation>
+    </message>
+    <message id="FAN_CURVE_TOO_HOT">
+        <source></source>
+        <translation>▲ Paused: too hot</translation>
+    </message>
+    <message id="FAN_CURVE_NO_READING">
+        <source></source>
+        <translation>▲ Paused: no reading</translation>
+    </message>
+    <message id="FAN_CURVE_NOT_CONNECTED">
+        <source></source>
+        <translation>Waits for the supply</translation>
+    </message>
+    <message id="FAN_CURVE_SOURCE">
+        <source></source>
+        <translation>What the curve goes by</translation>
+    </message>
+    <message id="FAN_CURVE_LOAD">
+        <source></source>
+        <translation>Load</translation>
+    </message>
+    <message id="FAN_CURVE_ADD">
+        <source></source>
+        <translation>Add a point (Insert)</translation>
+    </message>
+    <message id="FAN_CURVE_REMOVE">
+        <source></source>
+        <translation>Remove the selected point (Delete)</translation>
+    </message>
+    <message id="FAN_CURVE_KEYS">
+        <source></source>
+        <translation>Drag a point; double-click to add one. Keys: arrows move the selected point, Page Up and Page Down select another, Insert adds, Delete removes.</translation>
+    </message>
+    <message id="FAN_CURVE_POINT">
+        <source></source>
+        <translation>Point %1 of %2: %3</translation>
+    </message>
+    <message id="FAN_CURVE_HYSTERESIS">
+        <source></source>
+        <translation>Slow down after a fall of</translation>
+    </message>
+    <message id="FAN_CURVE_SECONDS">
+        <source></source>
+        <translation>Change at most every</translation>
+    </message>
+    <message id="FAN_CURVE_NOTE">
+        <source></source>
+        <translation>Back to the supply's own mode when the program ends, the temperature can't be read, or it gets hotter than 60 °C.</translation>
+    </message>
+    <message id="FAN_CURVE_UNSUPPORTED">
+        <source></source>
+        <translation>This supply looks after its fan by itself; models that take a custom speed have a fan curve here.</translation>
+    </message>
+    <message id="FAN_CURVE_NO_SUPPLY">
+        <source></source>
+        <translation>As soon as a supply that takes a custom speed is connected, its fan curve is here.</translation>
+    </message>
 </context>
 </TS>

@@ -89,6 +89,19 @@ void paintRing(QPainter &painter) {
     }
 }
 
+void paintFan(QPainter &painter) {
+    painter.translate(12, 12);
+    painter.drawEllipse(QPointF(0, 0), 1.7, 1.7);
+    QPainterPath blade(QPointF(-1.1, -2.9));
+    blade.cubicTo(-3.6, -5.2, -2.4, -9.6, 1.6, -9.6);
+    blade.cubicTo(5.2, -9.6, 5.6, -6.2, 3.0, -4.6);
+    blade.cubicTo(2.0, -4.0, 1.6, -3.4, 1.4, -2.7);
+    for (int i = 0; i < 4; ++i) {
+        painter.drawPath(blade);
+        painter.rotate(90.0);
+    }
+}
+
 } // namespace
 
 void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &colour) {
@@ -135,6 +148,9 @@ void paintIcon(QPainter &painter, Icon icon, const QRectF &rect, const QColor &c
         break;
     case Icon::Ring:
         paintRing(painter);
+        break;
+    case Icon::Fan:
+        paintFan(painter);
         break;
     case Icon::Tick:
         painter.drawPolyline(QPolygonF({QPointF(3.5, 12.5), QPointF(9.5, 18.5), QPointF(20.5, 6)}));

@@ -20,6 +20,7 @@ enum class Icon {
     Tick,
     Bars, ///< a chart of three bars
     Ring, ///< lights round a fan
+    Fan,  ///< four blades
 };
 
 /// Draws the sign centred in `rect`, as large as its shorter side.

@@ -39,7 +39,8 @@ qreal LevelSlider::knob() const { return kKnob * style::windowScale(*this); }
 
 int LevelSlider::levelAt(qreal x) const {
     const qreal margin = knob() + 2.0;
-    return qRound((x - margin) / std::max(1.0, width() - 2.0 * margin) * 100.0);
+    const qreal share = (x - margin) / std::max(1.0, width() - 2.0 * margin);
+    return minimum() + qRound(share * (maximum() - minimum()));
 }
 
 void LevelSlider::mousePressEvent(QMouseEvent *event) {
@@ -70,7 +71,8 @@ void LevelSlider::paintEvent(QPaintEvent * /*event*/) {
     const qreal scale = style::windowScale(*this);
     const qreal margin = knob() + 2.0;
     const qreal middle = height() / 2.0;
-    const qreal at = margin + (width() - 2.0 * margin) * value() / 100.0;
+    const qreal share = static_cast<qreal>(value() - minimum()) / std::max(1, maximum() - minimum());
+    const qreal at = margin + (width() - 2.0 * margin) * share;
     const qreal half = kTrack * scale / 2.0;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

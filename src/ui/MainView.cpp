@@ -3,6 +3,7 @@
 #include "ui/AlarmBanner.h"
 #include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
+#include "ui/FanPage.h"
 #include "ui/HistoryPage.h"
 #include "ui/LightingPage.h"
 #include "ui/NavigationRail.h"
@@ -23,6 +24,7 @@ NavigationRail *makeNavigation(QWidget *parent) {
     rail->addPage(Icon::Gauge, QT_TRID_NOOP("NAV_DASHBOARD"));
     rail->addPage(Icon::Bars, QT_TRID_NOOP("NAV_HISTORY"));
     rail->addPage(Icon::Ring, QT_TRID_NOOP("NAV_LIGHTING"));
+    rail->addPage(Icon::Fan, QT_TRID_NOOP("NAV_FAN"));
     rail->addPage(Icon::Bell, QT_TRID_NOOP("NAV_ALARMS"));
     return rail;
 }
@@ -39,6 +41,7 @@ MainView::MainView(QWidget *parent)
     , dashboard_(new DashboardPage(pages_))
     , history_(new HistoryPage(pages_))
     , lighting_(new LightingPage(pages_))
+    , fan_(new FanPage(pages_))
     , alarms_(new AlarmsPage(pages_)) {
     setObjectName(QStringLiteral("centralMain"));
     setAttribute(Qt::WA_StyledBackground);
@@ -64,6 +67,7 @@ void MainView::layOut() {
     pages_->addWidget(dashboard_);
     pages_->addWidget(history_);
     pages_->addWidget(lighting_);
+    pages_->addWidget(fan_);
     pages_->addWidget(alarms_);
     dashboard_->setAlarmBanner(alarmBanner_);
 

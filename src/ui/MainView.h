@@ -10,6 +10,7 @@ namespace zpsg::ui {
 class AlarmBanner;
 class AlarmsPage;
 class DashboardPage;
+class FanPage;
 class HistoryPage;
 class LightingPage;
 class NavigationRail;
@@ -20,7 +21,7 @@ class MainView : public QWidget {
 
 public:
     /// In the order of the rail.
-    enum class Page { Dashboard, History, Lighting, Alarms };
+    enum class Page { Dashboard, History, Lighting, Fan, Alarms };
     Q_ENUM(Page)
 
     /// The least size at which every text has room.
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] DashboardPage *dashboard() const { return dashboard_; }
     [[nodiscard]] HistoryPage *history() const { return history_; }
     [[nodiscard]] LightingPage *lighting() const { return lighting_; }
+    [[nodiscard]] FanPage *fan() const { return fan_; }
     [[nodiscard]] AlarmsPage *alarms() const { return alarms_; }
     /// Stands on the dashboard; the navigation counts what it shows.
     [[nodiscard]] AlarmBanner *alarmBanner() const { return alarmBanner_; }
@@ -64,6 +66,7 @@ private:
     DashboardPage *dashboard_;
     HistoryPage *history_;
     LightingPage *lighting_;
+    FanPage *fan_;
     AlarmsPage *alarms_;
 };
 

@@ -108,7 +108,8 @@ TEST_F(MainViewTest, NothingIsCutAtAnySize) {
             expectFit(" state " + std::to_string(static_cast<int>(c.state)) + " alarms " +
                       std::to_string(c.alarms) + " width " + std::to_string(size.width()));
         }
-        for (const MainView::Page page : {MainView::Page::History, MainView::Page::Alarms}) {
+        for (const MainView::Page page : {MainView::Page::History, MainView::Page::Lighting,
+                                          MainView::Page::Fan, MainView::Page::Alarms}) {
             view_.showPage(page);
             settle();
             expectFit(" on page " + std::to_string(static_cast<int>(page)) + ", width " +
