@@ -75,8 +75,8 @@ public:
     /// The raw path's input report with this id, id first: 0x10 (31 bytes), 0x11 or 0x12 (33 bytes).
     [[nodiscard]] std::optional<Answer> inputReport(std::uint8_t id);
     /// Takes an output report of the raw path, id first. 0x20: byte 1 is the fan mode (1 Silent, 0
-    /// Performance, 2 Zero Fan). 0x1E, 16 bytes: the light; byte 1 is 0x00 with red, green, blue, 0x01 with the
-    /// enable switch, 0x03 for the spectrum. False for any other.
+    /// Performance, 2 Zero Fan). 0x1E, 16 bytes: the light; byte 1 is 0x00 with red, green, blue, 0x01 with
+    /// the enable switch, 0x03 for the spectrum. False for any other.
     bool rawOutput(std::span<const std::uint8_t> report);
 
     // What the supply holds.
