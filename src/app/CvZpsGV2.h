@@ -134,11 +134,11 @@ public slots:
     void zpsCirqSelfBlink() { lighting_.selfBlink(); }
     void zpsCirqAutoBlink() { lighting_.autoBlink(); }
     void zpsCirqLightModelChange(int mode) { lighting_.changeLightMode(mode); }
-    void messageFromSocketHelper(const QByteArray &) {}
-    void messageFromSocketHelper_LightOnClick(const QByteArray &) {}
-    void messageFromSocketHelper_LightModel(const QVariantMap &) {}
-    void messageFromSocketHelper_RGBA(const QVariantMap &) {}
-    void messageFromSocketHelper_Music(const QVariantMap &) {}
+    void messageFromSocketHelper(const QByteArray &);
+    void messageFromSocketHelper_LightOnClick(const QByteArray &request);
+    void messageFromSocketHelper_LightModel(const QVariantMap &message);
+    void messageFromSocketHelper_RGBA(const QVariantMap &message);
+    void messageFromSocketHelper_Music(const QVariantMap &message);
     void ZpsCirqLightModelSelected(const QStringList &chosen);
     void HTMLColorSelect() { showLightingPage(); }
     void popLightModel() { showLightingPage(); }
@@ -147,14 +147,14 @@ public slots:
     void getFunctionSelected_LightMode(const QStringList &chosen);
     void getFunctionSelected_ColorMode(const QStringList &chosen);
     void getFunctionSelected_SpeedMode(const QStringList &chosen);
-    void messageFromSocketHelper_setupLight(const QVariantMap &) {}
-    void messageFromSocketHelper_setLightOn(const QVariantMap &) {}
-    void messageFromSocketHelper_setDefault(const QVariantMap &) {}
-    void messageFromSocketHelper_setBtnAndColor(const QVariantMap &) {}
-    void messageFromSocketHelper_setBtnAndBright(const QVariantMap &) {}
-    void messageFromSocketHelper_Music_12LED(const QVariantMap &) {}
-    void messageFromSocketHelper_Fan_Sync(const QVariantMap &) {}
-    void messageFromSocketHelper_startHelloCV() {}
+    void messageFromSocketHelper_setupLight(const QVariantMap &message);
+    void messageFromSocketHelper_setLightOn(const QVariantMap &message);
+    void messageFromSocketHelper_setDefault(const QVariantMap &) { lighting_.setDefaults(); }
+    void messageFromSocketHelper_setBtnAndColor(const QVariantMap &message);
+    void messageFromSocketHelper_setBtnAndBright(const QVariantMap &message);
+    void messageFromSocketHelper_Music_12LED(const QVariantMap &message);
+    void messageFromSocketHelper_Fan_Sync(const QVariantMap &message);
+    void messageFromSocketHelper_startHelloCV() { lighting_.showOwnLight(); }
     void messageFromSocketHelper_stopHelloCV() {}
     void thermalMode12LEDSlot() { lighting_.thermalUpdate(); }
     void popUpFanModel() { showFanPage(); }

@@ -39,6 +39,9 @@ Lighting::Lighting(Supply &supply, Settings &settings, QObject *parent)
     connect(&selfBlink_, &QTimer::timeout, this, &Lighting::selfBlink);
     connect(&autoBlink_, &QTimer::timeout, this, &Lighting::autoBlink);
     connect(&overlayTimer_, &QTimer::timeout, this, &Lighting::showOverlay);
+    frameTimer_.setSingleShot(true);
+    frameTimer_.setInterval(lighting::kFrameLasts);
+    connect(&frameTimer_, &QTimer::timeout, this, &Lighting::showOwnLight);
     connect(&supply_, &Supply::profileChanged, this, &Lighting::fit);
     connect(&supply_.monitor(), &SupplyMonitor::stateChanged, this, &Lighting::takeLinkState);
     connect(&supply_, &Supply::reopened, this, &Lighting::resend);
@@ -92,6 +95,10 @@ void Lighting::changeColour(const QStringList &rgb) {
     stateEdited();
 }
 
+void Lighting::changeColour(lighting::Colour colour) {
+    changeColour({QString::number(colour.red), QString::number(colour.green), QString::number(colour.blue)});
+}
+
 void Lighting::changeBrightness(int percent) {
     single_.changeBrightness(percent);
     stateEdited();
@@ -124,6 +131,24 @@ void Lighting::choosePlus(int lighting::PlusRingState::*choice, int index) {
         PlusRingState state = plus_.state();
         state.*choice = index;
         changePlus(state);
+    }
+}
+
+void Lighting::showFrame(const std::vector<Colour> &leds) {
+    if (!ring_ || leds.size() != ledsOf(*ring_) || ringIsOff() || lights_.covered()) {
+        return;
+    }
+    if (duoThread_) {
+        lighting::DuoLeds frame{};
+        std::copy(leds.begin(), leds.end(), frame.begin());
+        duoThread_->showFrame(frame);
+        return;
+    }
+    streaming_ = true;
+    runTimers();
+    lights_.show(*ring_, leds);
+    if (ring_ == RingKind::Single) {
+        frameTimer_.start();
     }
 }
 
@@ -168,7 +193,8 @@ void Lighting::takeLinkState(psu::LinkState state) {
 }
 
 void Lighting::thermalUpdate() {
-    if (const auto celsius = supply_.fresh("Temp")) {
+    const auto celsius = supply_.fresh("Temp");
+    if (celsius && !streaming_) {
         plus_.thermalUpdate(*celsius);
     }
 }
@@ -200,6 +226,8 @@ void Lighting::setSync(bool on, const QString &modeText) {
 
 void Lighting::stateEdited() {
     unsaved_ = true;
+    streaming_ = false;
+    frameTimer_.stop();
     runTimers();
     listen();
     emit changed();
@@ -283,12 +311,15 @@ void Lighting::applyOverlay() {
 }
 
 void Lighting::showOwnLight() {
+    streaming_ = false;
+    frameTimer_.stop();
     if (ring_ == RingKind::Plus) {
         plus_.apply();
         thermalUpdate();
     } else if (ring_ == RingKind::Single) {
         single_.apply();
     }
+    runTimers();
 }
 
 void Lighting::showOverlay() {
@@ -308,7 +339,7 @@ void Lighting::runTimers() {
             wanted ? timer.start() : timer.stop();
         }
     };
-    const bool ownLight = ring_ == RingKind::Single && !lights_.covered();
+    const bool ownLight = ring_ == RingKind::Single && !lights_.covered() && !streaming_;
     run(selfBlink_, ownLight && single_.blinkTimer() == lighting::BlinkTimer::Self);
     run(autoBlink_, ownLight && single_.blinkTimer() == lighting::BlinkTimer::Auto);
     run(overlayTimer_, ring_ && *ring_ != RingKind::Duo && overlay_.kind == Overlay::Kind::Alarm);

@@ -36,6 +36,7 @@ public:
 
     // The single-colour ring.
     void changeColour(const QStringList &rgb);
+    void changeColour(lighting::Colour colour);
     void changeBrightness(int percent);
     void turnOff(bool off);
     void changeLightMode(int mode);
@@ -45,6 +46,12 @@ public:
     void changePlus(const lighting::PlusRingState &state);
     /// Sets one of the 12-LED ring's choices (mode, colour mode, speed); out of its range changes nothing.
     void choosePlus(int lighting::PlusRingState::*choice, int index);
+    /// Shows colours of another program on the fitted ring, one a LED; not kept. The single ring and the Duo
+    /// set return to their own light when no other frame follows, the 12-LED ring with showOwnLight() or a
+    /// change. Nothing happens for another number of colours, or while the ring is off or covered.
+    void showFrame(const std::vector<lighting::Colour> &leds);
+    /// Back to the ring's own light.
+    void showOwnLight();
     void changeDuo(const lighting::DuoState &state);
     /// The fitted ring as it came, switched on.
     void setDefaults();
@@ -90,7 +97,6 @@ private:
 
     void fit();
     void stateEdited();
-    void showOwnLight();
     void takeLinkState(psu::LinkState state);
     void applyOverlay();
     void showOverlay();
@@ -114,6 +120,8 @@ private:
     QTimer selfBlink_;
     QTimer autoBlink_;
     QTimer overlayTimer_;
+    QTimer frameTimer_;      ///< runs while a frame is shown that has to go by itself
+    bool streaming_ = false; ///< another program's frame is shown on the single or the 12-LED ring
     Music music_;
     std::unique_ptr<lighting::ZpsCirqDuo_SendCommand> duoThread_; // last: ends before what it uses
 };

@@ -53,11 +53,13 @@ LightingFeed::LightingFeed(Lighting &lights, Supply &supply, LightingPage &page,
 
 void LightingFeed::connectPanels() {
     auto *single = page_.single();
-    connect(single, &ui::ZpsCirq::colourChanged, &lights_, &Lighting::changeColour);
+    connect(single, &ui::ZpsCirq::colourChanged, &lights_,
+            qOverload<const QStringList &>(&Lighting::changeColour));
     connect(single, &ui::ZpsCirq::brightnessChanged, &lights_, &Lighting::changeBrightness);
     connect(single, &ui::ZpsCirq::turnedOff, &lights_, &Lighting::turnOff);
     connect(single, &ui::ZpsCirq::lightModeChosen, &lights_, &Lighting::changeLightMode);
     connect(page_.plus(), &ui::RGB12LEDWidget::edited, &lights_, &Lighting::changePlus);
+    connect(page_.duo(), &ui::ZpsCirqDuo_Widget::frameStreamed, &lights_, &Lighting::showFrame);
     connect(page_.duo(), &ui::ZpsCirqDuo_Widget::edited, &lights_, &Lighting::changeDuo);
     for (const ui::RingPanel *panel :
          {static_cast<ui::RingPanel *>(single), static_cast<ui::RingPanel *>(page_.plus()),

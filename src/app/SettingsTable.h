@@ -89,6 +89,19 @@ enum class Setting {
     FanCurveLoad,
     FanCurveHysteresis,
     FanCurveMinSeconds,
+    SocketAllowRemote,
+    MqttHost,
+    MqttPort,
+    MqttPublishPrefix,
+    MqttSubscribePrefix,
+    MqttAccountId,
+    MqttProductId,
+    MqttUser,
+    MqttPassword,
+    MqttCaFile,
+    MqttDiscovery,
+    RemotePower,
+    MetricsPort,
     Count,
 };
 
@@ -242,6 +255,30 @@ inline constexpr std::array kSettingsTable{
                SettingType::Integer, "3", 0, 15},
     SettingRow{Setting::FanCurveMinSeconds, SettingsFile::SaveFunction, "/FanCurve/MinSeconds",
                SettingType::Integer, "10", 2, 120},
+    // Who may connect to the control socket: this machine's own programs, or anybody.
+    SettingRow{Setting::SocketAllowRemote, SettingsFile::General, "/Socket/AllowRemote", SettingType::Flag,
+               "false"},
+    // The broker; nothing connects while the host is empty.
+    SettingRow{Setting::MqttHost, SettingsFile::General, "/Mqtt/Host", SettingType::Text, ""},
+    SettingRow{Setting::MqttPort, SettingsFile::General, "/Mqtt/Port", SettingType::Integer, "1883", 1,
+               65535},
+    SettingRow{Setting::MqttPublishPrefix, SettingsFile::General, "/Mqtt/PublishPrefix", SettingType::Text,
+               "zpsg"},
+    SettingRow{Setting::MqttSubscribePrefix, SettingsFile::General, "/Mqtt/SubscribePrefix",
+               SettingType::Text, "zpsg"},
+    SettingRow{Setting::MqttAccountId, SettingsFile::General, "/Mqtt/AccountId", SettingType::Text, ""},
+    SettingRow{Setting::MqttProductId, SettingsFile::General, "/Mqtt/ProductId", SettingType::Text, ""},
+    SettingRow{Setting::MqttUser, SettingsFile::General, "/Mqtt/User", SettingType::Text, ""},
+    SettingRow{Setting::MqttPassword, SettingsFile::General, "/Mqtt/Password", SettingType::Text, ""},
+    // With a CA file the connection is encrypted.
+    SettingRow{Setting::MqttCaFile, SettingsFile::General, "/Mqtt/CaFile", SettingType::Text, ""},
+    SettingRow{Setting::MqttDiscovery, SettingsFile::General, "/Mqtt/Discovery", SettingType::Flag, "false"},
+    // 1: a remote command may shut the PC down
+    SettingRow{Setting::RemotePower, SettingsFile::General, "/Setting/RemotePower", SettingType::Choice, "0",
+               0, 1},
+    // 0: no metrics
+    SettingRow{Setting::MetricsPort, SettingsFile::General, "/Metrics/Port", SettingType::Integer, "0", 0,
+               65535},
 };
 
 constexpr bool settingsTableIsComplete() {

@@ -47,6 +47,13 @@ void ZpsCirqDuo_SendCommand::setSoundSource(std::function<Sound()> source) {
     soundSource_ = std::move(source);
 }
 
+void ZpsCirqDuo_SendCommand::showFrame(const DuoLeds &leds) {
+    const auto until = now_() + kFrameLasts;
+    const std::lock_guard lock(mutex_);
+    frame_ = leds;
+    frameUntil_ = until;
+}
+
 DuoLeds ZpsCirqDuo_SendCommand::shown() const {
     const std::lock_guard lock(mutex_);
     return shown_;
@@ -82,6 +89,9 @@ std::optional<DuoLeds> ZpsCirqDuo_SendCommand::nextFrame(std::chrono::steady_clo
     const std::lock_guard lock(mutex_);
     if (now < restUntil_) {
         return std::nullopt;
+    }
+    if (now < frameUntil_ && state_.on && surroundings_.overlay.kind == Overlay::Kind::None) {
+        return frame_;
     }
     surroundings_.sound = soundSource_ && needsSound(state_) ? soundSource_() : Sound{};
     return duoLeds(state_, surroundings_, step_, overlayStep_);

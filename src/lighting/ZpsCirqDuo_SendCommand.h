@@ -14,6 +14,8 @@ namespace zpsg::lighting {
 
 /// Milliseconds between two frames. A cycle of kEffectSteps lasts 3.8 s.
 inline constexpr int kFrameMilliseconds = 40;
+/// How long a frame of another program stays when no other follows.
+inline constexpr std::chrono::milliseconds kFrameLasts(2000);
 
 /// The setters may be called from any thread, at any time.
 class ZpsCirqDuo_SendCommand : public QThread {
@@ -38,6 +40,10 @@ public:
     /// use any more when this returns.
     void setSoundSource(std::function<Sound()> source);
 
+    /// Shows these colours instead of the effects, until kFrameLasts has passed without another frame; an
+    /// overlay and the off switch come first.
+    void showFrame(const DuoLeds &leds);
+
     /// What was sent last; dark before the first frame.
     [[nodiscard]] DuoLeds shown() const;
 
@@ -59,6 +65,8 @@ private:
     DuoSurroundings surroundings_;
     std::function<Sound()> soundSource_;
     DuoLeds shown_{};
+    DuoLeds frame_{};
+    std::chrono::steady_clock::time_point frameUntil_;
     std::chrono::steady_clock::time_point restUntil_;
     // The timer's thread only.
     int step_ = 0;

@@ -1,5 +1,6 @@
 #include "ui/RGB12LEDWidget.h"
 
+#include "lighting/LightMessages.h"
 #include "ui/ColourEditor.h"
 #include "ui/LightingText.h"
 #include "ui/RingPicture.h"
@@ -158,6 +159,10 @@ void RGB12LEDWidget::scaleSelectors(qreal scale) {
     for (Selector *choice : choices_) {
         choice->applyScale(scale);
     }
+}
+
+void RGB12LEDWidget::messageFromSocketHelper_getInit() {
+    emit returnInitTo_socketHelper(lighting::plusStateText(state_));
 }
 
 } // namespace zpsg::ui

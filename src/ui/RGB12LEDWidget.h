@@ -21,7 +21,12 @@ public:
     /// What the ring shows now; twelve colours.
     void showLeds(std::span<const lighting::Colour> leds) { showLive(leds); }
 
+public slots:
+    /// Another program asks for the state; returnInitTo_socketHelper() answers.
+    void messageFromSocketHelper_getInit();
+
 signals:
+    void returnInitTo_socketHelper(const QString &state);
     /// The user has changed something; the whole of what is set now.
     void edited(const zpsg::lighting::PlusRingState &state);
 

@@ -4,6 +4,8 @@
 #include "lighting/LightingState.h"
 #include "ui/RingPanel.h"
 
+#include <QVariantMap>
+
 #include <array>
 
 namespace zpsg::ui {
@@ -27,7 +29,21 @@ public:
     /// What sets the effect when it is not the user; an empty text or `on` false: nothing does.
     void showSync(bool on, const QString &modeText);
 
+public slots:
+    // What other programs ask for; docs/control-socket.md names the keys.
+    /// DuoState() answers.
+    void messageFromSocket();
+    void messageFromSocket_setupLight(const QVariantMap &message);
+    void messageFromSocket_setLightOn(const QVariantMap &message);
+    void messageFromSocket_setDefault(const QVariantMap &message);
+    void messageFromSocket_setBtnAndColor(const QVariantMap &message);
+    void messageFromSocket_setBtnAndBright(const QVariantMap &message);
+    void messageFromSocket_ModelMusic(const QVariantMap &message);
+
 signals:
+    void DuoState(const QString &state);
+    /// Colours to show at once and not to keep: the front ring's six, then the middle ring's twelve.
+    void frameStreamed(const std::vector<zpsg::lighting::Colour> &leds);
     /// The user has changed something; the whole of what is set now.
     void edited(const zpsg::lighting::DuoState &state);
 
@@ -61,6 +77,7 @@ private:
     [[nodiscard]] QColor colourOf(std::size_t ring, std::size_t led) const;
     [[nodiscard]] double factorOf(std::size_t ring, std::size_t led) const;
     void changed();
+    void take(const lighting::DuoState &state);
     void refresh();
     /// What follows from which lights are chosen.
     void showChosen();

@@ -392,6 +392,34 @@ TEST_F(LightingTest, WhatIsMoreUrgentCoversTheLightAndGivesItBack) {
     EXPECT_FALSE(lights->overlay().offWhenLocked);
 }
 
+TEST_F(LightingTest, AnotherProgramsFramesComeAndGo) {
+    start(kPlusModel);
+    const auto own = sent();
+    const std::vector<Colour> frame(12, Colour{1, 2, 3});
+    lights->showFrame(frame);
+    EXPECT_THAT(sent(), ElementsAre(lighting::streamedFrame(frame)));
+    lights->showFrame(std::vector<Colour>(18));
+    EXPECT_TRUE(sent().empty()) << "another ring's";
+    lights->showOwnLight();
+    EXPECT_THAT(sent(), ElementsAre(lighting::panelFrame(lights->plus())));
+    auto off = lights->plus();
+    off.off = true;
+    lights->changePlus(off);
+    sent();
+    lights->showFrame(frame);
+    EXPECT_TRUE(sent().empty()) << "off is off";
+    stop();
+
+    start(kSingleModel);
+    lights->changeLightMode(2); // a blink, which must not go on beside the frames
+    sent();
+    lights->showFrame({Colour{1, 2, 3}});
+    EXPECT_THAT(sent(), ElementsAre(lighting::colourReport({1, 2, 3})));
+    QTest::qWait(3 * lighting::kSelfBlinkMilliseconds / 2);
+    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(sends(1)) << "nobody sends any more, so it blinks again";
+}
+
 TEST_F(LightingTest, TheDuoSetGoesDarkBeforeThePcSleeps) {
     start(kDuoModel);
     EXPECT_TRUE(sends(3));

@@ -156,6 +156,20 @@ TEST_F(SendCommandTest, LeavesASlowSupplyItsTimeForTelemetry) {
     EXPECT_EQ(framesIn(40ms), 1);
 }
 
+TEST_F(SendCommandTest, AnotherProgramsFrameStaysTwoSeconds) {
+    DuoLeds frame{};
+    frame.fill({1, 2, 3});
+    command.showFrame(frame);
+    framesIn(1960ms);
+    EXPECT_EQ(sent.back(), duoFrame(frame, DuoLayout::EachSlot));
+    framesIn(80ms);
+    EXPECT_NE(sent.back(), duoFrame(frame, DuoLayout::EachSlot));
+    command.showFrame(frame);
+    command.setOverlay({Overlay::Kind::Dark});
+    framesIn(40ms);
+    EXPECT_THAT(command.shown(), Each(kDark)) << "an overlay comes first";
+}
+
 TEST_F(SendCommandTest, ListensOnlyWhileAnEffectDoes) {
     int asked = 0;
     command.setSoundSource([&asked] {
