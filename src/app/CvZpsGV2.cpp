@@ -155,7 +155,7 @@ void CvZpsGV2::setUpPages() {
         recorder_, paths_.data, [this] { return now(); }, *view_->history(), this);
     new LightingFeed(lighting_, supply_, *view_->lighting(), this);
     fanFeed_ = new FanFeed(fan_, supply_, *view_->fan(), this);
-    feed_ = new ViewFeed(supply_, alarms_, day_, settings_, *view_, random_, this);
+    feed_ = new ViewFeed(supply_, alarms_, fan_, day_, settings_, *view_, random_, this);
     view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
     day_.loadDayProfile(now().date());
     feed_->showDay(now());
@@ -205,13 +205,9 @@ void CvZpsGV2::alignAutostart() {
 }
 
 void CvZpsGV2::demoInfo() {
-    fan_.tick(std::chrono::steady_clock::now());
-    alarms_.expectStandingFan(fan_.mayStand());
-    if (monitor().hasReading()) {
-        feed_->takeReading(now());
-    }
+    fanFeed_->tick(now());
+    feed_->takeReading(now());
     lighting_.takeReading();
-    fanFeed_->takeReading(now().toMSecsSinceEpoch());
 }
 
 void CvZpsGV2::ClockTick() {

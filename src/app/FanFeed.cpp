@@ -84,7 +84,8 @@ void FanFeed::showCurveState() {
                          driven->percent);
 }
 
-void FanFeed::takeReading(qint64 msecsSinceEpoch) {
+void FanFeed::tick(const QDateTime &now) {
+    control_.tick(std::chrono::steady_clock::now());
     ui::FanReading reading;
     reading.mode = shownMode();
     reading.rpm = supply_.fresh("FanSpeed");
@@ -95,7 +96,7 @@ void FanFeed::takeReading(qint64 msecsSinceEpoch) {
     if (const auto load = supply_.freshLoad()) {
         reading.loadPercent = *load * 100.0;
     }
-    page_.takeReading(reading, msecsSinceEpoch);
+    page_.takeReading(reading, now.toMSecsSinceEpoch());
     showCurveState();
 }
 

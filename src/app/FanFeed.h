@@ -3,6 +3,8 @@
 
 #include "app/FanControl.h"
 
+#include <QDateTime>
+
 namespace zpsg::ui {
 class FanPage;
 }
@@ -16,8 +18,8 @@ class FanFeed : public QObject {
 public:
     FanFeed(FanControl &control, Supply &supply, ui::FanPage &page, QObject *parent = nullptr);
 
-    /// Once a second, after FanControl::tick().
-    void takeReading(qint64 msecsSinceEpoch);
+    /// Once a second: drives the curve by the latest reading, and shows it.
+    void tick(const QDateTime &now);
 
 private:
     void connectPage();

@@ -50,6 +50,7 @@ Lighting::Lighting(Supply &supply, Settings &settings, QObject *parent)
 }
 
 Lighting::~Lighting() {
+    blockSignals(true); // who listens may be half gone
     if (unsaved_) {
         saveLED();
     }

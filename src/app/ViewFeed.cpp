@@ -11,11 +11,12 @@ namespace zpsg::app {
 using psu::AlarmGroup;
 using psu::AlarmKind;
 
-ViewFeed::ViewFeed(Supply &supply, Alarms &alarms, const power::DayProfile &day, Settings &settings,
-                   ui::MainView &view, power::RandomSource random, QObject *parent)
+ViewFeed::ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const power::DayProfile &day,
+                   Settings &settings, ui::MainView &view, power::RandomSource random, QObject *parent)
     : QObject(parent)
     , supply_(supply)
     , alarms_(alarms)
+    , fan_(fan)
     , day_(day)
     , settings_(settings)
     , view_(view)
@@ -63,6 +64,10 @@ void ViewFeed::showAlarms() {
 }
 
 void ViewFeed::takeReading(const QDateTime &now) {
+    if (!supply_.monitor().hasReading()) {
+        return;
+    }
+    alarms_.expectStandingFan(fan_.mayStand());
     // Values that are not refreshed are no samples.
     if (supply_.monitor().state() == psu::LinkState::Live) {
         alarms_.tick(supply_.monitor().record(), now);

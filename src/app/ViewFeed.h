@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Alarms.h"
+#include "app/FanControl.h"
 #include "app/Supply.h"
 #include "power/DayProfile.h"
 #include "power/Efficiency.h"
@@ -20,10 +21,10 @@ class ViewFeed : public QObject {
     Q_OBJECT
 
 public:
-    ViewFeed(Supply &supply, Alarms &alarms, const power::DayProfile &day, Settings &settings,
-             ui::MainView &view, power::RandomSource random, QObject *parent = nullptr);
+    ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const power::DayProfile &day,
+             Settings &settings, ui::MainView &view, power::RandomSource random, QObject *parent = nullptr);
 
-    /// Once a second: supervises the latest reading and shows it as it is supervised.
+    /// Once a second: supervises the latest reading, when there is one, and shows it as it is supervised.
     void takeReading(const QDateTime &now);
     /// After the minute clock has gone on.
     void showDay(const QDateTime &now);
@@ -37,6 +38,7 @@ private:
 
     Supply &supply_;
     Alarms &alarms_;
+    const FanControl &fan_;
     const power::DayProfile &day_;
     Settings &settings_;
     ui::MainView &view_;
