@@ -4,18 +4,18 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqwt-qt5-dev
     libhidapi-dev libudev-dev libsodium-dev
-    libsystemd-dev libpulse-dev libkissfft-dev
+    libsystemd-dev libpulse-dev libkissfft-dev libmosquitto-dev libssl-dev libmicrohttpd-dev
     libqt5sql5-sqlite sqlite3 libzip-dev zlib1g-dev
     librsvg2-bin fonts-inter fonts-dejavu-core
 )
 test_packages=(
     git
-    clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
+    clang clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick
-    dbus-daemon pulseaudio-utils
+    dbus-daemon pulseaudio-utils mosquitto mosquitto-clients
     qemu-system-x86 busybox-static cpio kmod xz-utils
-    strace python3 openssl
+    iproute2 strace python3 openssl
 )
 
 installed() { # PACKAGE

@@ -1,0 +1,3 @@
+#include "remote/Logging.h"
+
+Q_LOGGING_CATEGORY(lcRemote, "zpsg.remote", QtInfoMsg)
