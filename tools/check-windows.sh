@@ -30,6 +30,7 @@ export compiler output
 printf '%s\n' "$@" | xargs -P 2 -I '{}' sh -c '
     object=$output/$(printf %s "$1" | tr / -).o
     "$compiler" -std=c++20 -O1 -Wall -Wextra -Wpedantic -Werror -Isrc -c "$1" -o "$object"' compile '{}'
-"$compiler" -static -o "$output/selftest.exe" "$output"/*.o -lhid -lsetupapi -luser32 -ladvapi32 -lole32 -lwtsapi32
+"$compiler" -static -o "$output/selftest.exe" "$output"/*.o -lhid -lsetupapi -luser32 -ladvapi32 -lole32 -lpowrprof \
+    -lwtsapi32
 
 echo "Windows: $# sources compile without warnings and link: $output/selftest.exe"

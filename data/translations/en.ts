@@ -1248,5 +1248,49 @@ While the supply is connected every minute is recorded, and today’s bar appear
         <source></source>
         <translation>As soon as a supply that takes a custom speed is connected, its fan curve is here.</translation>
     </message>
+    <message id="POWER_SHUTDOWN_TITLE">
+        <source></source>
+        <translation>The PC is about to shut down</translation>
+    </message>
+    <message id="POWER_RESTART_TITLE">
+        <source></source>
+        <translation>The PC is about to restart</translation>
+    </message>
+    <message id="POWER_SLEEP_TITLE">
+        <source></source>
+        <translation>The PC is about to sleep</translation>
+    </message>
+    <message id="POWER_SHUTDOWN_NOW">
+        <source></source>
+        <translation>Shut down now</translation>
+    </message>
+    <message id="POWER_RESTART_NOW">
+        <source></source>
+        <translation>Restart now</translation>
+    </message>
+    <message id="POWER_SLEEP_NOW">
+        <source></source>
+        <translation>Sleep now</translation>
+    </message>
+    <message id="POWER_WORDS">
+        <source></source>
+        <translation>A remote command asked for it. Programs will be closed: save your work, or cancel.</translation>
+    </message>
+    <message id="POWER_WORDS_SLEEP">
+        <source></source>
+        <translation>A remote command asked for it. Programs stay open and go on when the PC wakes up.</translation>
+    </message>
+    <message id="POWER_CANCEL">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="POWER_SECONDS_LEFT">
+        <source></source>
+        <translation>Seconds left: %1</translation>
+    </message>
+    <message id="POWER_SECONDS_UNIT">
+        <source></source>
+        <translation>sec</translation>
+    </message>
 </context>
 </TS>
