@@ -5,9 +5,11 @@
 #include "app/HistoryFeed.h"
 #include "app/LightingFeed.h"
 #include "app/Logging.h"
+#include "app/SocketWiring.h"
 #include "app/ViewFeed.h"
 #include "platform/DeviceAccess.h"
 #include "platform/NativeEvent.h"
+#include "remote/SocketHelper.h"
 #include "sensors/pcInfoReader.h"
 #include "ui/DashboardPage.h"
 #include "ui/MainView.h"
@@ -36,18 +38,22 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
     , lighting_(supply_, settings_)
     , fan_(supply_, settings_)
+    , usage_(supply_, settings_)
+    , power_(settings_)
     , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
     , day_(dayStorage(settings_))
     , recorder_(settings_, paths_.data, paths_.resources, parts.random)
     , uploader_(settings_, paths_.data)
     , fastClock_(std::move(parts.fastClock))
-    , random_(std::move(parts.random)) {
+    , random_(std::move(parts.random))
+    , socketPort_(parts.socketPort) {
     readSettings();
     loadLanguage();
     buildWindow();
     connectTitleBar();
     createTray();
     createServices();
+    createRemote();
     identifyModel();
     readInfo();
     setUpPages();
@@ -146,6 +152,19 @@ void CvZpsGV2::createServices() {
         platform::SessionWatch::start([this](platform::SessionEvent event) { sessionEvent(event); });
 }
 
+void CvZpsGV2::createRemote() {
+    socket_ = std::make_unique<remote::SocketHelper>(socketPort_);
+    socket_->setAllowRemote(settings_.flag(Setting::SocketAllowRemote));
+    connectSocket(*socket_, *this, supply_, lighting_, *view_->lighting());
+    remote_ = std::make_unique<RemoteServices>(
+        RemoteServices::Parts{supply_, settings_, alarms_, fan_, lighting_, usage_, random_});
+    connect(remote_.get(), &RemoteServices::received, this, &CvZpsGV2::mqttAnalysis);
+    connect(remote_.get(), &RemoteServices::powerRequested, &power_, &RemotePower::request);
+    connect(&alarms_, &Alarms::began, remote_.get(), &RemoteServices::tellAlarm);
+    connect(&power_, &RemotePower::failed, this,
+            [this](const QString &why) { showMessage(why, QStringLiteral("Message")); });
+}
+
 void CvZpsGV2::setUpPages() {
     auto *dashboard = view_->dashboard();
     dashboard->setDemo(demo_);
@@ -163,7 +182,7 @@ void CvZpsGV2::setUpPages() {
 }
 
 void CvZpsGV2::startTimers() {
-    addTimer(1000, &CvZpsGV2::demoInfo);
+    connect(addTimer(1000, &CvZpsGV2::demoInfo), &QTimer::timeout, this, &CvZpsGV2::takeSecond);
     readTimer_ = addTimer(1000, &CvZpsGV2::readInfo);
     addTimer(60000, &CvZpsGV2::saveData);
     addTimer(120000, &CvZpsGV2::getNextDailySettlement);
@@ -248,6 +267,11 @@ void CvZpsGV2::takeSample() {
     if (record.measured(QStringLiteral("WATTS"))) {
         day_.addSample(record.text(QStringLiteral("WATTS")), now());
     }
+}
+
+void CvZpsGV2::takeSecond() {
+    usage_.tick(std::chrono::steady_clock::now());
+    remote_->takeReading();
 }
 
 void CvZpsGV2::takeAlarms() { lighting_.setAlarmHolds(!alarms_.log().holding().empty()); }

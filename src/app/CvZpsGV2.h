@@ -8,6 +8,8 @@
 #include "app/Lighting.h"
 #include "app/Paths.h"
 #include "app/Recorder.h"
+#include "app/RemotePower.h"
+#include "app/RemoteServices.h"
 #include "app/Settings.h"
 #include "app/Supply.h"
 #include "app/Tray.h"
@@ -31,6 +33,9 @@
 
 class QNetworkReply;
 
+namespace zpsg::remote {
+class SocketHelper;
+}
 namespace zpsg::sensors {
 class pcInfoReader;
 }
@@ -46,6 +51,7 @@ struct WindowParts {
     std::unique_ptr<psu::HidBackend> backend;
     bool demo = false; ///< simulated supply: leave the system (autostart, companion) alone
     psu::MonitorTiming timing{};
+    quint16 socketPort = 5488;                         ///< of the control socket; 0: any that is free
     std::shared_ptr<simulator::FastClock> fastClock{}; ///< null: time as it passes
     int fastClockFactor = 1;
     power::RandomSource random = [] { return QRandomGenerator::global()->generate(); };
@@ -101,7 +107,7 @@ signals:
 public slots:
     void controlableFanSpeed(int percent) { fan_.controlableFanSpeed(percent); }
     void hwinfoOpenFail(const QString &) {}
-    void mqttAnalysis(const QString &) {}
+    void mqttAnalysis(const QString &text) { remote_->analyse(text); }
     void tabChange() {}
     void readInfo() { supply_.monitor().readInfo(); }
     void demoInfo();
@@ -117,7 +123,7 @@ public slots:
     void changeLanguage();
     void resetLanguage();
     void ClockTick();
-    void slotsTimePass() {}
+    void slotsTimePass() { usage_.save(); }
     void messageBReceiveData(const QString &) {}
     void aboutSubmit() {}
     void msgFrommessageDE(const QString &) {}
@@ -191,6 +197,7 @@ private:
     void connectTitleBar();
     void createTray();
     void createServices();
+    void createRemote();
     void setUpPages();
     void startTimers();
     void startSensorTimer();
@@ -207,6 +214,7 @@ private:
     void sessionEvent(platform::SessionEvent event);
     void tellMissingLightingFile();
     void takeAlarms();
+    void takeSecond();
     void takeSample();
     void startFastClock(int factor);
     void passFastMinute();
@@ -221,6 +229,8 @@ private:
     Supply supply_;
     Lighting lighting_;
     FanControl fan_;
+    Usage usage_;
+    RemotePower power_;
     Alarms alarms_;
     power::DayProfile day_;
     Recorder recorder_;
@@ -233,6 +243,9 @@ private:
     ViewFeed *feed_ = nullptr;     // owned by the window
     FanFeed *fanFeed_ = nullptr;   // owned by the window
     std::unique_ptr<Tray> tray_;
+    quint16 socketPort_;
+    std::unique_ptr<remote::SocketHelper> socket_;
+    std::unique_ptr<RemoteServices> remote_;
     QTimer *readTimer_ = nullptr;
     QThread sensorThread_;
     std::unique_ptr<sensors::pcInfoReader> sensors_;

@@ -20,6 +20,10 @@ std::size_t ledsOf(RingKind ring) {
     return ring == RingKind::Single ? 1 : ring == RingKind::Plus ? lighting::kPlusLeds : lighting::kDuoLeds;
 }
 
+std::optional<float> narrow(std::optional<double> value) {
+    return value ? std::optional(static_cast<float>(*value)) : std::nullopt;
+}
+
 } // namespace
 
 Lighting::Lighting(Supply &supply, Settings &settings, QObject *parent)
@@ -196,7 +200,7 @@ void Lighting::takeLinkState(psu::LinkState state) {
 void Lighting::thermalUpdate() {
     const auto celsius = supply_.fresh("Temp");
     if (celsius && !streaming_) {
-        plus_.thermalUpdate(*celsius);
+        plus_.thermalUpdate(static_cast<float>(*celsius));
     }
 }
 
@@ -248,8 +252,8 @@ void Lighting::setOverlayOptions(lighting::GaugeKind gauge, lighting::Palette pa
 }
 
 void Lighting::takeReading() {
-    inputs_.celsius = supply_.fresh("Temp");
-    inputs_.load = supply_.freshLoad();
+    inputs_.celsius = narrow(supply_.fresh("Temp"));
+    inputs_.load = narrow(supply_.freshLoad());
     if (duoThread_) {
         duoThread_->setCelsius(inputs_.celsius);
     }

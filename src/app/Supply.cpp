@@ -36,19 +36,19 @@ bool Supply::connectPsu() {
     return opened;
 }
 
-std::optional<float> Supply::fresh(const char *key) const {
+std::optional<double> Supply::fresh(const char *key) const {
     const QString name = QString::fromLatin1(key);
     if (!monitor_.hasReading() || monitor_.state() != psu::LinkState::Live ||
         !monitor_.record().measured(name)) {
         return std::nullopt;
     }
-    return static_cast<float>(monitor_.record().number(name));
+    return monitor_.record().number(name);
 }
 
-std::optional<float> Supply::freshLoad() const {
+std::optional<double> Supply::freshLoad() const {
     const auto watts = fresh("WATTS");
-    const float rated = profile().ratedWatts;
-    return watts && rated > 0.0F ? std::optional(*watts / rated) : std::nullopt;
+    const double rated = profile().ratedWatts;
+    return watts && rated > 0.0 ? std::optional(*watts / rated) : std::nullopt;
 }
 
 void Supply::recognise() {

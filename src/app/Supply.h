@@ -33,9 +33,9 @@ public:
     [[nodiscard]] const power::EfficiencyProfile &profile() const { return efficiency_.profile(); }
     /// A quantity of the latest sample, by its key in the record; nothing while the supply does not answer,
     /// or has never told it.
-    [[nodiscard]] std::optional<float> fresh(const char *key) const;
+    [[nodiscard]] std::optional<double> fresh(const char *key) const;
     /// Output power as a fraction of the rated watts; nothing likewise, or while the model is not known.
-    [[nodiscard]] std::optional<float> freshLoad() const;
+    [[nodiscard]] std::optional<double> freshLoad() const;
     /// The model is one of the lists'.
     [[nodiscard]] bool identified() const { return identified_; }
 
