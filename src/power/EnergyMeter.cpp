@@ -11,7 +11,8 @@ void EnergyMeter::add(std::optional<double> watts, Time now) {
         watts.reset();
     }
     const auto passed = now - last_;
-    if (watts && lastWatts_ && passed > passed.zero() && passed <= kLongestGap) {
+    if (watts && lastWatts_ && passed > std::chrono::steady_clock::duration::zero() &&
+        passed <= kLongestGap) {
         const double hours = std::chrono::duration<double>(passed).count() / kSecondsPerHour;
         kwh_ += (*watts + *lastWatts_) / 2.0 * hours / kWattsPerKilowatt;
     }
