@@ -73,13 +73,6 @@ void RingPanel::layOut() {
     auto *shownRow = new QHBoxLayout;
     shownRow->addWidget(shown_, 1);
     shownRow->addWidget(source_);
-    choiceRow_ = new QHBoxLayout;
-    choiceRow_->addStretch(1);
-    for (QPushButton *choice : choices_) {
-        choice->setCursor(Qt::PointingHandCursor);
-        choiceRow_->addWidget(choice);
-    }
-    choiceRow_->addStretch(1);
     auto *left = new QVBoxLayout(pictureCard_);
     left->addLayout(shownRow);
     left->addWidget(picture_, 1);
@@ -87,6 +80,13 @@ void RingPanel::layOut() {
     if (choices_.empty()) {
         hint_->hide();
     } else {
+        choiceRow_ = new QHBoxLayout;
+        choiceRow_->addStretch(1);
+        for (QPushButton *choice : choices_) {
+            choice->setCursor(Qt::PointingHandCursor);
+            choiceRow_->addWidget(choice);
+        }
+        choiceRow_->addStretch(1);
         left->addWidget(hint_);
         left->addLayout(choiceRow_);
     }
@@ -206,7 +206,9 @@ void RingPanel::applyScale(qreal scale) {
     pictureCard_->layout()->setSpacing(gap);
     controlsCard_->layout()->setSpacing(margin);
     head_->setSpacing(gap);
-    choiceRow_->setSpacing(gap);
+    if (choiceRow_ != nullptr) {
+        choiceRow_->setSpacing(gap);
+    }
     foot_->setSpacing(gap);
     selectors_->setHorizontalSpacing(gap);
     selectors_->setVerticalSpacing(qRound(6.0 * scale));

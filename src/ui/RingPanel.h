@@ -87,7 +87,7 @@ private:
     QPushButton *default_;
     QPushButton *save_;
     QGridLayout *selectors_ = nullptr;
-    QHBoxLayout *choiceRow_ = nullptr;
+    QHBoxLayout *choiceRow_ = nullptr; ///< null for a ring of one light
     QHBoxLayout *head_ = nullptr;
     QHBoxLayout *foot_ = nullptr;
     std::vector<QLabel *> captions_;

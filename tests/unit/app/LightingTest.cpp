@@ -190,11 +190,9 @@ TEST_F(LightingTest, ThePictureIsWhatTheSupplyHolds) {
     duo.lightMode = {6, 6};
     lights->changeDuo(duo);
     const auto expected = lighting::duoLeds(duo, {}, 0, 0);
-    const auto isShown = [&] {
-        return heldBySupply(RingKind::Duo) == std::vector(expected.begin(), expected.end());
-    };
-    EXPECT_TRUE(QTest::qWaitFor(isShown));
-    EXPECT_EQ(lights->leds(0), std::vector(expected.begin(), expected.end()));
+    const std::vector leds(expected.begin(), expected.end());
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return heldBySupply(RingKind::Duo) == leds && lights->leds(0) == leds; }));
     stop();
 
     start(kSingleModel);
