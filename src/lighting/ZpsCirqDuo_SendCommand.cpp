@@ -24,6 +24,7 @@ ZpsCirqDuo_SendCommand::ZpsCirqDuo_SendCommand(SendFrame sendFrame, Now now, QOb
 ZpsCirqDuo_SendCommand::~ZpsCirqDuo_SendCommand() {
     quit();
     wait();
+    const std::lock_guard lock(mutex_); // see run()
 }
 
 void ZpsCirqDuo_SendCommand::setState(const DuoState &state) {
@@ -65,6 +66,7 @@ void ZpsCirqDuo_SendCommand::run() {
     connect(&timer, &QTimer::timeout, this, &ZpsCirqDuo_SendCommand::runEffect, Qt::DirectConnection);
     timer.start(kFrameMilliseconds);
     exec();
+    const std::lock_guard lock(mutex_); // hands what this thread used over to whoever destroys it, visibly
 }
 
 void ZpsCirqDuo_SendCommand::runEffect() {
