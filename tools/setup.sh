@@ -10,7 +10,7 @@ build_packages=(
 )
 test_packages=(
     git
-    clang clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
+    clang libclang-rt-dev clang-format clang-tidy libgtest-dev libgmock-dev libbenchmark-dev
     g++-mingw-w64-x86-64-posix
     xvfb xauth xdotool x11-utils imagemagick
     dbus-daemon pulseaudio-utils mosquitto mosquitto-clients
