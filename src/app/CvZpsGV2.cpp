@@ -175,7 +175,7 @@ void CvZpsGV2::setUpPages() {
     new LightingFeed(lighting_, supply_, *view_->lighting(), this);
     fanFeed_ = new FanFeed(fan_, supply_, *view_->fan(), this);
     feed_ = new ViewFeed(supply_, alarms_, fan_, day_, settings_, *view_, random_, this);
-    view_->setMainEnabled(monitor().mainPathPresent() || monitor().rawPathPresent());
+    view_->setMainEnabled(supply_.present());
     day_.loadDayProfile(now().date());
     feed_->showDay(now());
     demoInfo();

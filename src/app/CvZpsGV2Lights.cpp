@@ -20,10 +20,8 @@ void CvZpsGV2::messageFromSocketHelper_LightModel(const QVariantMap &message) {
 }
 
 void CvZpsGV2::messageFromSocketHelper_RGBA(const QVariantMap &message) {
-    lighting_.changeColour(lighting::singleColourIn(message, lighting_.single().colour));
-    if (const auto percent = lighting::brightnessIn(message)) {
-        lighting_.changeBrightness(*percent);
-    }
+    lighting_.changeColour(lighting::singleColourIn(message, lighting_.single().colour),
+                           lighting::brightnessIn(message));
 }
 
 void CvZpsGV2::messageFromSocketHelper_Music(const QVariantMap &message) {

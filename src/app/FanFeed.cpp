@@ -56,8 +56,7 @@ void FanFeed::showControl() {
 }
 
 void FanFeed::showReachable() {
-    const auto &monitor = supply_.monitor();
-    page_.setReachable(monitor.mainPathPresent() || monitor.rawPathPresent());
+    page_.setReachable(supply_.present());
     showCurveState();
 }
 

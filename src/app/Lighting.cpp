@@ -100,8 +100,11 @@ void Lighting::changeColour(const QStringList &rgb) {
     stateEdited();
 }
 
-void Lighting::changeColour(lighting::Colour colour) {
+void Lighting::changeColour(lighting::Colour colour, std::optional<int> percent) {
     changeColour({QString::number(colour.red), QString::number(colour.green), QString::number(colour.blue)});
+    if (percent) {
+        changeBrightness(*percent);
+    }
 }
 
 void Lighting::changeBrightness(int percent) {

@@ -36,7 +36,8 @@ public:
 
     // The single-colour ring.
     void changeColour(const QStringList &rgb);
-    void changeColour(lighting::Colour colour);
+    /// With the slider's value, where there is one.
+    void changeColour(lighting::Colour colour, std::optional<int> percent = {});
     void changeBrightness(int percent);
     void turnOff(bool off);
     void changeLightMode(int mode);

@@ -88,10 +88,7 @@ void LightingFeed::showState() {
     page_.duo()->showSync(!lights_.syncModeText().isEmpty(), lights_.syncModeText());
 }
 
-void LightingFeed::showReachable() {
-    const auto &monitor = supply_.monitor();
-    page_.setReachable(monitor.mainPathPresent() || monitor.rawPathPresent());
-}
+void LightingFeed::showReachable() { page_.setReachable(supply_.present()); }
 
 void LightingFeed::watch(bool watched) {
     if (watched) {

@@ -70,8 +70,7 @@ void connectSocket(SocketHelper &socket, CvZpsGV2 &window, Supply &supply, Light
     connectDuo(socket, *page.duo());
 
     const auto tell = [&] {
-        const auto &monitor = supply.monitor();
-        emit window.mainToSocketHelpRGB_State(monitor.mainPathPresent() || monitor.rawPathPresent(),
+        emit window.mainToSocketHelpRGB_State(supply.present(),
                                               static_cast<int>(lights.ring().value_or(RingKind::Single)));
     };
     const auto tellState = [&] {

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::optional<double> fresh(const char *key) const;
     /// Output power as a fraction of the rated watts; nothing likewise, or while the model is not known.
     [[nodiscard]] std::optional<double> freshLoad() const;
+    /// A supply is connected, by either path.
+    [[nodiscard]] bool present() const { return monitor_.mainPathPresent() || monitor_.rawPathPresent(); }
     /// The model is one of the lists'.
     [[nodiscard]] bool identified() const { return identified_; }
 
