@@ -97,7 +97,8 @@
     </message>
     <message id="MAIN_STR_LINK_NO_DEVICE_HINT">
         <source></source>
-        <translation>Check the cable from the supply to the USB header on the mainboard. It is found by itself once it is plugged in.</translation>
+        <extracomment>Below MAIN_STR_LINK_NO_DEVICE, beside a button; as short as it can be.</extracomment>
+        <translation>Check its USB cable to the mainboard. It is found once plugged in.</translation>
     </message>
     <message id="MAIN_STR_LINK_NO_PERMISSION">
         <source></source>
@@ -105,11 +106,13 @@
     </message>
     <message id="MAIN_STR_LINK_NO_PERMISSION_HINT">
         <source></source>
-        <translation>The supply is connected, but your user account may not open its device node (hidraw).</translation>
+        <extracomment>Below MAIN_STR_LINK_NO_PERMISSION, beside a button.</extracomment>
+        <translation>The supply is there, but your user account may not open it.</translation>
     </message>
     <message id="MAIN_STR_LINK_NO_PERMISSION_REMEDY">
         <source></source>
-        <translation>The supply is connected, but your user account may not open its device node (hidraw). Run this command once in a terminal:</translation>
+        <extracomment>Below MAIN_STR_LINK_NO_PERMISSION, beside a button; a shell command follows on the next line.</extracomment>
+        <translation>Your user account may not open it. Run this once in a terminal:</translation>
     </message>
     <message id="MAIN_STR_LINK_SILENT">
         <source></source>
@@ -117,7 +120,8 @@
     </message>
     <message id="MAIN_STR_LINK_SILENT_HINT">
         <source></source>
-        <translation>Values in grey are the last that were read. The program keeps asking.</translation>
+        <extracomment>Below MAIN_STR_LINK_SILENT.</extracomment>
+        <translation>Grey values are the last that were read. The program keeps asking.</translation>
     </message>
     <message id="MAIN_STR_COPY">
         <source></source>
@@ -177,7 +181,7 @@
     </message>
     <message id="ALARM_TEMPERATURE_ADVICE">
         <source></source>
-        <translation>It has reached its limit of %1 °C; check that air can get to its fan and out again.</translation>
+        <translation>It has reached its limit of %1; check that air can get to its fan and out again.</translation>
     </message>
     <message id="ALARM_SINCE">
         <source></source>
@@ -241,7 +245,7 @@
     </message>
     <message id="ALARM_GROUP_TEMPERATURE_HINT">
         <source></source>
-        <translation>When the supply reaches 60 °C.</translation>
+        <translation>When the supply reaches %1.</translation>
     </message>
     <message id="ALARM_LOG">
         <source></source>
@@ -1178,7 +1182,7 @@ While the supply is connected every minute is recorded, and today’s bar appear
     </message>
     <message id="FAN_HOUR_SPOKEN">
         <source></source>
-        <translation>Fan %1 to %2 rpm, temperature %3 to %4 °C</translation>
+        <translation>Fan %1 to %2 rpm, temperature %3 to %4</translation>
     </message>
     <message id="FAN_CURVE">
         <source></source>
@@ -1238,7 +1242,7 @@ While the supply is connected every minute is recorded, and today’s bar appear
     </message>
     <message id="FAN_CURVE_NOTE">
         <source></source>
-        <translation>Back to the supply's own mode when the program ends, the temperature can't be read, or it gets hotter than 60 °C.</translation>
+        <translation>Back to the supply's own mode when the program ends, the temperature can't be read, or it gets hotter than %1.</translation>
     </message>
     <message id="FAN_CURVE_UNSUPPORTED">
         <source></source>
@@ -1291,6 +1295,1136 @@ While the supply is connected every minute is recorded, and today’s bar appear
     <message id="POWER_SECONDS_UNIT">
         <source></source>
         <translation>sec</translation>
+    </message>
+    <message id="MAIN_STR_TREND_ENERGY">
+        <source></source>
+        <extracomment>Segment of the switch at the dashboard's foot, beside "Efficiency": the view of kWh and cost</extracomment>
+        <translation>Energy</translation>
+    </message>
+    <message id="MAIN_STR_TREND_PC">
+        <source></source>
+        <extracomment>Segment of the switch at the dashboard's foot: the PC's own processor and graphics card</extracomment>
+        <translation>PC</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY">
+        <source></source>
+        <extracomment>Caption of the card of kWh and cost</extracomment>
+        <translation>Energy and cost</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_TODAY">
+        <source></source>
+        <extracomment>Head of a column of cost and kWh</extracomment>
+        <translation>Today</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_MONTH">
+        <source></source>
+        <extracomment>Head of a column of cost and kWh</extracomment>
+        <translation>This month</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_YEAR">
+        <source></source>
+        <extracomment>Head of a column of cost and kWh</extracomment>
+        <translation>This year</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_PROJECTED">
+        <source></source>
+        <extracomment>Head of a column: cost and kWh of a whole year at the pace so far</extracomment>
+        <translation>Projected year</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_AFTER_A_DAY">
+        <source></source>
+        <extracomment>Below an en dash in the column "Projected year": the figure will be there after one day</extracomment>
+        <translation>after one day</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_WALL">
+        <source></source>
+        <extracomment>%1 is an amount with its unit, as 4.21 kWh: what was taken from the mains</extracomment>
+        <translation>%1 from the wall</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_OUTPUT">
+        <source></source>
+        <extracomment>%1 is an amount with its unit, as 3.98 kWh: what the supply gave to the PC</extracomment>
+        <translation>%1 output</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_NO_EFFICIENCY">
+        <source></source>
+        <extracomment>At the right of the caption; the kWh taken from the mains are shown as equal to those given to the PC</extracomment>
+        <translation>Efficiency not known: the wall counts as the output</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_TIME">
+        <source></source>
+        <extracomment>A duration: %1 hours, %2 minutes (0 to 59)</extracomment>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_THIS_RUN">
+        <source></source>
+        <extracomment>Before time, kWh and cost since the program was started; small, at the card's foot</extracomment>
+        <translation>This run</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_LAST_RUN">
+        <source></source>
+        <extracomment>Before time, kWh and cost of the program's run before this one; small, at the card's foot</extracomment>
+        <translation>Last run</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_TOTAL">
+        <source></source>
+        <extracomment>Before time, kWh and cost of all runs; small, at the card's foot</extracomment>
+        <translation>Since the first start</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_SET_RATE">
+        <source></source>
+        <extracomment>Button: opens the dialog for what a kWh costs</extracomment>
+        <translation>Set electricity rate…</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_RATE">
+        <source></source>
+        <extracomment>The same button once a rate is set</extracomment>
+        <translation>Rate…</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_EXPLAINED">
+        <source></source>
+        <extracomment>Tool tip of the card of kWh and cost</extracomment>
+        <translation>From the wall: the output and what is lost in the supply, by the efficiency curve of its model.</translation>
+    </message>
+    <message id="MAIN_STR_PC">
+        <source></source>
+        <extracomment>Caption of the card of the PC's own sensors</extracomment>
+        <translation>Processor and graphics card</translation>
+    </message>
+    <message id="MAIN_STR_PC_PROCESSOR">
+        <source></source>
+        <extracomment>Before the model's name, in the PC view</extracomment>
+        <translation>Processor</translation>
+    </message>
+    <message id="MAIN_STR_PC_GRAPHICS">
+        <source></source>
+        <extracomment>Before the model's name, in the PC view</extracomment>
+        <translation>Graphics card</translation>
+    </message>
+    <message id="MAIN_STR_PC_OFF">
+        <source></source>
+        <extracomment>In the PC view, while reading is switched off</extracomment>
+        <translation>The PC's own sensors are not read</translation>
+    </message>
+    <message id="MAIN_STR_PC_OFF_HINT">
+        <source></source>
+        <extracomment>Below MAIN_STR_PC_OFF</extracomment>
+        <translation>Temperature, power, voltage and current of processor and graphics card can stand here, as far as this PC has sensors for them.</translation>
+    </message>
+    <message id="MAIN_STR_PC_READ">
+        <source></source>
+        <extracomment>Button below MAIN_STR_PC_OFF: start reading the PC's own sensors</extracomment>
+        <translation>Read them</translation>
+    </message>
+    <message id="MAIN_STR_PC_WAITING">
+        <source></source>
+        <extracomment>In the PC view, just after reading was switched on</extracomment>
+        <translation>Waiting for the first reading</translation>
+    </message>
+    <message id="MAIN_STR_PC_NOTHING">
+        <source></source>
+        <extracomment>In the PC view; below it stands what to install</extracomment>
+        <translation>No sensor of this PC gives anything</translation>
+    </message>
+    <message id="RATE_STR_FAULT_NUMBER">
+        <source></source>
+        <extracomment>Beside a price that is none; %1 is an example in the user's number format, as 0.305</extracomment>
+        <translation>Enter a number, as %1</translation>
+    </message>
+    <message id="RATE_STR_FAULT_RANGE">
+        <source></source>
+        <extracomment>Beside a price out of its range; %1 is the greatest</extracomment>
+        <translation>From 0 to %1</translation>
+    </message>
+    <message id="RATE_STR_FAULT_DECIMALS">
+        <source></source>
+        <extracomment>Beside a price with too many decimal places; %1 is 5</extracomment>
+        <translation>At most %1 decimals</translation>
+    </message>
+    <message id="MAIN_STR_ENERGY_HOURS">
+        <source></source>
+        <extracomment>A long duration: %1 hours, 100 or more</extracomment>
+        <translation>%1 h</translation>
+    </message>
+    <message id="RATE_STR_TITLE">
+        <source></source>
+        <extracomment>Title of the dialog</extracomment>
+        <translation>Electricity rate</translation>
+    </message>
+    <message id="RATE_STR_PRICE_OF_KWH">
+        <source></source>
+        <extracomment>Before the entry of the price, in the dialog</extracomment>
+        <translation>Price of a kWh</translation>
+    </message>
+    <message id="RATE_STR_NOT_SET">
+        <source></source>
+        <extracomment>In the empty entry of the price, in grey; short</extracomment>
+        <translation>not set</translation>
+    </message>
+    <message id="RATE_STR_CURRENCY">
+        <source></source>
+        <extracomment>Tool tip and name of the list of currency codes</extracomment>
+        <translation>Currency</translation>
+    </message>
+    <message id="RATE_STR_PERIODS">
+        <source></source>
+        <extracomment>Caption above the list of periods with another price</extracomment>
+        <translation>Other prices at certain times</translation>
+    </message>
+    <message id="RATE_STR_NO_PERIODS">
+        <source></source>
+        <extracomment>Below RATE_STR_PERIODS while there are none</extracomment>
+        <translation>The price holds at all hours. If your contract has cheaper nights or weekends, add them here.</translation>
+    </message>
+    <message id="RATE_STR_PERIODS_HINT">
+        <source></source>
+        <extracomment>Below RATE_STR_PERIODS: the rows of periods are looked at from the top down</extracomment>
+        <translation>The first row that matches wins. When none does, the price above holds.</translation>
+    </message>
+    <message id="RATE_STR_ADD">
+        <source></source>
+        <extracomment>Button: one more row in the list of periods</extracomment>
+        <translation>Add a period</translation>
+    </message>
+    <message id="RATE_STR_FULL">
+        <source></source>
+        <extracomment>Tool tip of the button RATE_STR_ADD while it is disabled; %1 is 12</extracomment>
+        <translation>No more than %1 periods</translation>
+    </message>
+    <message id="RATE_STR_ROW">
+        <source></source>
+        <extracomment>For screen readers: the row of number %1 in the list of periods</extracomment>
+        <translation>Period %1</translation>
+    </message>
+    <message id="RATE_STR_DAYS">
+        <source></source>
+        <extracomment>Head of a column of seven small buttons, one for each day of the week</extracomment>
+        <translation>Days</translation>
+    </message>
+    <message id="RATE_STR_FROM">
+        <source></source>
+        <extracomment>Head of a narrow column of times of day: when a period begins</extracomment>
+        <translation>From</translation>
+    </message>
+    <message id="RATE_STR_TO">
+        <source></source>
+        <extracomment>Head of a narrow column of times of day: when a period ends</extracomment>
+        <translation>To</translation>
+    </message>
+    <message id="RATE_STR_PRICE">
+        <source></source>
+        <extracomment>Head of a column of prices of a kWh</extracomment>
+        <translation>Price</translation>
+    </message>
+    <message id="RATE_STR_NEXT_DAY">
+        <source></source>
+        <extracomment>Tool tip of a small "+1" behind the time at which a period ends</extracomment>
+        <translation>Ends on the next day</translation>
+    </message>
+    <message id="RATE_STR_UP">
+        <source></source>
+        <extracomment>Tool tip of a small button with an arrow: the row counts before the one above it then</extracomment>
+        <translation>Move up</translation>
+    </message>
+    <message id="RATE_STR_REMOVE">
+        <source></source>
+        <extracomment>Tool tip of a small button with a cross: removes the row</extracomment>
+        <translation>Remove</translation>
+    </message>
+    <message id="RATE_STR_WEEK">
+        <source></source>
+        <extracomment>Caption of a picture of the week, a strip for each day, coloured by price</extracomment>
+        <translation>What holds when</translation>
+    </message>
+    <message id="RATE_STR_CANCEL">
+        <source></source>
+        <extracomment>Button of the dialog</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="RATE_STR_SAVE">
+        <source></source>
+        <extracomment>Button of the dialog</extracomment>
+        <translation>Save</translation>
+    </message>
+    <message id="RATE_STR_FAULT_TIME">
+        <source></source>
+        <extracomment>Below a row with a time that is none; as 00:00 and 24:00</extracomment>
+        <translation>Enter a time from %1 to %2</translation>
+    </message>
+    <message id="RATE_STR_FAULT_DAYS">
+        <source></source>
+        <extracomment>Below a row without a day of the week</extracomment>
+        <translation>Choose a day at least</translation>
+    </message>
+    <message id="RATE_STR_FAULT_CURRENCY">
+        <source></source>
+        <extracomment>Beside the currency; %1 is a code, as EUR</extracomment>
+        <translation>Enter a code of three letters, as %1</translation>
+    </message>
+    <message id="TRAYICON_OUTPUT">
+        <source></source>
+        <extracomment>Tip of the tray icon, one line of several; 127 characters are all that a tip has. %1 is the output power, %2 its share of the rated power.</extracomment>
+        <translation>%1 W, load %2 %</translation>
+    </message>
+    <message id="TRAYICON_GOES_ON">
+        <source></source>
+        <extracomment>Title of a message, once, when the window is closed to the tray for the first time.</extracomment>
+        <translation>ZPS G goes on in the tray</translation>
+    </message>
+    <message id="TRAYICON_GOES_ON_HINT">
+        <source></source>
+        <extracomment>Text of that message. Exit is the menu's entry TRAYICON_EXIT: use the same word.</extracomment>
+        <translation>Click its icon to open the window again. Exit in its menu ends the program.</translation>
+    </message>
+    <message id="MAIN_STR_DEMO_LOOK">
+        <source></source>
+        <extracomment>Button on the dashboard while no supply is found; starts the demo.</extracomment>
+        <translation>Look around with a simulated supply</translation>
+    </message>
+    <message id="MAIN_STR_DEMO_LEAVE">
+        <source></source>
+        <extracomment>Button beside MAIN_STR_DEMO.</extracomment>
+        <translation>Leave the demo</translation>
+    </message>
+    <message id="ABOUT_STR_WHAT">
+        <source></source>
+        <extracomment>Head of the about page, below the name and the version: what the program is.</extracomment>
+        <translation>Watches your digital power supply, keeps its history, and sets its fan and its lights.</translation>
+    </message>
+    <message id="ABOUT_STR_COPY">
+        <source></source>
+        <extracomment>Button on the about page: puts model and versions into the clipboard.</extracomment>
+        <translation>Copy details for a report</translation>
+    </message>
+    <message id="ABOUT_STR_COPY_HINT">
+        <source></source>
+        <extracomment>Tip of that button.</extracomment>
+        <translation>Model, rating, connection and versions. The serial number and your folders are left out.</translation>
+    </message>
+    <message id="ABOUT_STR_SUPPLY">
+        <source></source>
+        <extracomment>Caption of a card on the about page.</extracomment>
+        <translation>This supply</translation>
+    </message>
+    <message id="ABOUT_STR_MODEL">
+        <source></source>
+        <extracomment>Name in a list on the about page; the model of the supply follows.</extracomment>
+        <translation>Model</translation>
+    </message>
+    <message id="ABOUT_STR_RATING">
+        <source></source>
+        <extracomment>The same; watts follow.</extracomment>
+        <translation>Rated output</translation>
+    </message>
+    <message id="ABOUT_STR_SERIAL">
+        <source></source>
+        <extracomment>The same.</extracomment>
+        <translation>Serial number</translation>
+    </message>
+    <message id="ABOUT_STR_LINK">
+        <source></source>
+        <extracomment>The same; one of the ABOUT_STR_LINK_ texts follows.</extracomment>
+        <translation>Connection</translation>
+    </message>
+    <message id="ABOUT_STR_LINK_NONE">
+        <source></source>
+        <extracomment>Behind ABOUT_STR_LINK: no supply is connected.</extracomment>
+        <translation>none</translation>
+    </message>
+    <message id="ABOUT_STR_LINK_MAIN">
+        <source></source>
+        <extracomment>Behind ABOUT_STR_LINK: the usual one of the two ways in which supplies talk.</extracomment>
+        <translation>USB, main path</translation>
+    </message>
+    <message id="ABOUT_STR_LINK_RAW">
+        <source></source>
+        <extracomment>Behind ABOUT_STR_LINK: the other one.</extracomment>
+        <translation>USB, raw path</translation>
+    </message>
+    <message id="ABOUT_STR_LINK_DEMO">
+        <source></source>
+        <extracomment>Behind ABOUT_STR_LINK: the demo's supply.</extracomment>
+        <translation>simulated</translation>
+    </message>
+    <message id="ABOUT_STR_PROGRAM">
+        <source></source>
+        <extracomment>Caption of a card on the about page.</extracomment>
+        <translation>This program</translation>
+    </message>
+    <message id="ABOUT_STR_DATA">
+        <source></source>
+        <extracomment>Name in a list on the about page; a path follows.</extracomment>
+        <translation>Data folder</translation>
+    </message>
+    <message id="ABOUT_STR_BUILD">
+        <source></source>
+        <extracomment>The same; the version of Qt follows.</extracomment>
+        <translation>Build</translation>
+    </message>
+    <message id="ABOUT_STR_SYSTEM">
+        <source></source>
+        <extracomment>The same; the operating system's name follows.</extracomment>
+        <translation>System</translation>
+    </message>
+    <message id="ABOUT_STR_LICENCE">
+        <source></source>
+        <extracomment>The same; MIT follows.</extracomment>
+        <translation>Licence</translation>
+    </message>
+    <message id="ABOUT_STR_LIBRARIES">
+        <source></source>
+        <extracomment>Caption above a list of libraries on the about page.</extracomment>
+        <translation>Libraries in it, and their licences</translation>
+    </message>
+    <message id="ABOUT_STR_KEYBOARD">
+        <source></source>
+        <extracomment>Caption of a card on the about page.</extracomment>
+        <translation>Keyboard</translation>
+    </message>
+    <message id="ABOUT_STR_KEY_PAGES">
+        <source></source>
+        <extracomment>What Ctrl+1 … Ctrl+7 do.</extracomment>
+        <translation>Go to a page</translation>
+    </message>
+    <message id="ABOUT_STR_KEY_TAB">
+        <source></source>
+        <extracomment>What the Tab key does.</extracomment>
+        <translation>Next control; with Shift the one before</translation>
+    </message>
+    <message id="ABOUT_STR_KEY_ARROWS">
+        <source></source>
+        <extracomment>What the arrow keys do: move a point, a slider, a selection.</extracomment>
+        <translation>Move or change what is marked</translation>
+    </message>
+    <message id="ABOUT_STR_KEY_SPACE">
+        <source></source>
+        <extracomment>What the space bar does.</extracomment>
+        <translation>Press the marked button, throw the switch</translation>
+    </message>
+    <message id="ABOUT_STR_KEY_ESC">
+        <source></source>
+        <extracomment>What the Esc key does.</extracomment>
+        <translation>Close what has popped up, choose nothing</translation>
+    </message>
+    <message id="NAV_SETTINGS">
+        <source></source>
+        <extracomment>Navigation rail, at most 11 characters</extracomment>
+        <translation>Settings</translation>
+    </message>
+    <message id="NAV_ABOUT">
+        <source></source>
+        <extracomment>Navigation rail, at most 11 characters: the page on the program itself</extracomment>
+        <translation>About</translation>
+    </message>
+    <message id="MAIN_STR_CLOSE_MINIMISES">
+        <source></source>
+        <extracomment>Tip of the close button where the desktop has no tray</extracomment>
+        <translation>Minimise (this desktop has no tray)</translation>
+    </message>
+    <message id="SETTING_STR_EXPORTED">
+        <source></source>
+        <extracomment>Result of exporting the settings; %1 is a path</extracomment>
+        <translation>Saved to %1</translation>
+    </message>
+    <message id="SETTING_STR_NOT_EXPORTED">
+        <source></source>
+        <extracomment>%1 is the reason</extracomment>
+        <translation>The settings were not saved: %1</translation>
+    </message>
+    <message id="SETTING_STR_NOT_IMPORTED">
+        <source></source>
+        <extracomment>Result of importing settings from a file; %1 is the reason, beginning in lower case</extracomment>
+        <translation>Nothing was taken over: %1</translation>
+    </message>
+    <message id="SETTING_STR_NO_SETTINGS_FILE">
+        <source></source>
+        <extracomment>A reason, after a colon</extracomment>
+        <translation>this is no file of settings, or one of a newer version</translation>
+    </message>
+    <message id="SETTING_STR_IMPORTED">
+        <source></source>
+        <extracomment>Result of importing settings</extracomment>
+        <translation>The settings of the file hold from now on.</translation>
+    </message>
+    <message id="SETTING_STR_NOT_KEPT">
+        <source></source>
+        <extracomment>Result of importing or resetting settings</extracomment>
+        <translation>The settings hold until the program ends: they could not be written to the disk.</translation>
+    </message>
+    <message id="SETTING_STR_RESET_DONE">
+        <source></source>
+        <extracomment>Result of resetting the settings</extracomment>
+        <translation>All settings are as they were at first.</translation>
+    </message>
+    <message id="SETTING_STR_SOCKET_LISTENS">
+        <source></source>
+        <extracomment>State of the control socket</extracomment>
+        <translation>Listening on port %1. Programs connected: %2</translation>
+    </message>
+    <message id="SETTING_STR_PORT_TAKEN">
+        <source></source>
+        <extracomment>Why nothing listens</extracomment>
+        <translation>Port %1 is used by another program.</translation>
+    </message>
+    <message id="SETTING_STR_MQTT_OFF">
+        <source></source>
+        <extracomment>State of MQTT</extracomment>
+        <translation>Off: no broker is named.</translation>
+    </message>
+    <message id="SETTING_STR_MQTT_CONNECTED">
+        <source></source>
+        <extracomment>%1 is a host name</extracomment>
+        <translation>Connected to %1</translation>
+    </message>
+    <message id="SETTING_STR_MQTT_CONNECTING">
+        <source></source>
+        <extracomment>%1 is a host name</extracomment>
+        <translation>Connecting to %1…</translation>
+    </message>
+    <message id="SETTING_STR_MQTT_FAILED">
+        <source></source>
+        <extracomment>%1 is a host name, %2 an English error name</extracomment>
+        <translation>%1 can't be reached (%2). It is tried again by itself.</translation>
+    </message>
+    <message id="SETTING_STR_SENSORS_OFF">
+        <source></source>
+        <extracomment>The PC's own sensors are not read</extracomment>
+        <translation>Off</translation>
+    </message>
+    <message id="SETTING_STR_SENSORS_WAIT">
+        <source></source>
+        <extracomment>The PC's own sensors: no values yet</extracomment>
+        <translation>Reading…</translation>
+    </message>
+    <message id="SETTING_STR_RATE_NONE">
+        <source></source>
+        <extracomment>The electricity rate</extracomment>
+        <translation>Not set</translation>
+    </message>
+    <message id="SETTING_STR_RATE_NOW">
+        <source></source>
+        <extracomment>%1 is money</extracomment>
+        <translation>%1 for a kWh</translation>
+    </message>
+    <message id="SETTING_STR_RATE_PERIODS">
+        <source></source>
+        <extracomment>%1 is money, %2 the number of periods of the week that have a rate of their own</extracomment>
+        <translation>%1 for a kWh now. Periods: %2</translation>
+    </message>
+    <message id="PC_STR_PROCESSOR_AT">
+        <source></source>
+        <extracomment>%1 is a temperature</extracomment>
+        <translation>Processor %1</translation>
+    </message>
+    <message id="PC_STR_GRAPHICS_AT">
+        <source></source>
+        <extracomment>%1 is a temperature</extracomment>
+        <translation>Graphics card %1</translation>
+    </message>
+    <message id="PC_STR_READ">
+        <source></source>
+        <extracomment>The PC's own sensors</extracomment>
+        <translation>Read once a second</translation>
+    </message>
+    <message id="PC_STR_INSTALL_HWMON">
+        <source></source>
+        <extracomment>What to do when no sensor can be read on Linux; keep the commands</extracomment>
+        <translation>The system has no sensor driver loaded. Load it with “sudo modprobe coretemp” (Intel) or “sudo modprobe k10temp” (AMD); NVIDIA cards need NVIDIA's driver.</translation>
+    </message>
+    <message id="PC_STR_INSTALL_HWINFO">
+        <source></source>
+        <extracomment>What to do when no sensor can be read on Windows; keep the names</extracomment>
+        <translation>Install and start HWiNFO, and switch on “Shared Memory Support” in its settings.</translation>
+    </message>
+    <message id="SETTING_STR_TITLE">
+        <source></source>
+        <extracomment>title of the settings page</extracomment>
+        <translation>Settings</translation>
+    </message>
+    <message id="SETTING_STR_SECTIONS">
+        <source></source>
+        <extracomment>for screen readers: the list of sections at the left of the settings page</extracomment>
+        <translation>Sections</translation>
+    </message>
+    <message id="SETTING_STR_GENERAL">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>General</translation>
+    </message>
+    <message id="SETTING_STR_ENERGY">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>Energy</translation>
+    </message>
+    <message id="SETTING_STR_ALARMS">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>Alarms</translation>
+    </message>
+    <message id="SETTING_STR_REMOTE">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>Remote control</translation>
+    </message>
+    <message id="SETTING_STR_SENSORS">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>PC sensors</translation>
+    </message>
+    <message id="SETTING_STR_DATA">
+        <source></source>
+        <extracomment>settings page: section in the list at the left, short</extracomment>
+        <translation>Data</translation>
+    </message>
+    <message id="SETTING_STR_LOOK">
+        <source></source>
+        <extracomment>title of a card with the rows language, temperature unit, text size</extracomment>
+        <translation>Language and display</translation>
+    </message>
+    <message id="SETTING_STR_LANGUAGE">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Language</translation>
+    </message>
+    <message id="SETTING_STR_LANGUAGE_HINT">
+        <source></source>
+        <extracomment>what the language setting is for</extracomment>
+        <translation>For the window, the tray menu and all messages.</translation>
+    </message>
+    <message id="SETTING_STR_LANGUAGE_SYSTEM">
+        <source></source>
+        <extracomment>first entry of the list of languages</extracomment>
+        <translation>Same as the system</translation>
+    </message>
+    <message id="SETTING_STR_UNIT">
+        <source></source>
+        <extracomment>name of a row; choices °C and °F</extracomment>
+        <translation>Temperature unit</translation>
+    </message>
+    <message id="SETTING_STR_UNIT_HINT">
+        <source></source>
+        <extracomment>what the unit is for</extracomment>
+        <translation>Used wherever a temperature is shown.</translation>
+    </message>
+    <message id="SETTING_STR_TEXT">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Text size</translation>
+    </message>
+    <message id="SETTING_STR_TEXT_HINT">
+        <source></source>
+        <extracomment>what the text size is for</extracomment>
+        <translation>Large makes use of all the room in the window.</translation>
+    </message>
+    <message id="SETTING_STR_TEXT_USUAL">
+        <source></source>
+        <extracomment>choice for the text size; short</extracomment>
+        <translation>Usual</translation>
+    </message>
+    <message id="SETTING_STR_TEXT_LARGE">
+        <source></source>
+        <extracomment>choice for the text size; short</extracomment>
+        <translation>Large</translation>
+    </message>
+    <message id="SETTING_STR_START">
+        <source></source>
+        <extracomment>title of a card with the rows start with the system, start hidden, on the tray icon</extracomment>
+        <translation>Start and tray</translation>
+    </message>
+    <message id="SETTING_STR_AUTOSTART">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Start with the system</translation>
+    </message>
+    <message id="SETTING_STR_AUTOSTART_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>Starts when you sign in, so that no hour is missing from the history.</translation>
+    </message>
+    <message id="SETTING_STR_HIDDEN">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Start hidden in the tray</translation>
+    </message>
+    <message id="SETTING_STR_HIDDEN_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>No window opens when you sign in; a click on the tray icon shows it.</translation>
+    </message>
+    <message id="SETTING_STR_TRAY">
+        <source></source>
+        <extracomment>name of a row: which figure the icon in the tray shows</extracomment>
+        <translation>On the tray icon</translation>
+    </message>
+    <message id="SETTING_STR_TRAY_HINT">
+        <source></source>
+        <extracomment>what the choice is for</extracomment>
+        <translation>The figure you can read without opening the window.</translation>
+    </message>
+    <message id="SETTING_STR_TRAY_LOAD">
+        <source></source>
+        <extracomment>choice: the tray icon shows the load in percent; short</extracomment>
+        <translation>Load</translation>
+    </message>
+    <message id="SETTING_STR_TRAY_TEMPERATURE">
+        <source></source>
+        <extracomment>choice: the tray icon shows the temperature; short</extracomment>
+        <translation>Temperature</translation>
+    </message>
+    <message id="SETTING_STR_TRAY_NOTHING">
+        <source></source>
+        <extracomment>choice: the tray icon shows no figure; short</extracomment>
+        <translation>Nothing</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS">
+        <source></source>
+        <extracomment>why a row is disabled; %1 is the name of another row with a switch</extracomment>
+        <translation>Needs “%1” to be on.</translation>
+    </message>
+    <message id="SETTING_STR_COST">
+        <source></source>
+        <extracomment>title of a card</extracomment>
+        <translation>Cost</translation>
+    </message>
+    <message id="SETTING_STR_RATE">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Electricity rate</translation>
+    </message>
+    <message id="SETTING_STR_RATE_HINT">
+        <source></source>
+        <extracomment>what the rate is for; the rate itself stands below</extracomment>
+        <translation>What you pay for a kilowatt-hour. All costs follow from it.</translation>
+    </message>
+    <message id="SETTING_STR_CHANGE">
+        <source></source>
+        <extracomment>button that opens the rates</extracomment>
+        <translation>Change …</translation>
+    </message>
+    <message id="SETTING_STR_COUNTED">
+        <source></source>
+        <extracomment>title of a card that only explains</extracomment>
+        <translation>How energy is counted</translation>
+    </message>
+    <message id="SETTING_STR_AT_WALL">
+        <source></source>
+        <extracomment>name of a row without a control</extracomment>
+        <translation>At the wall</translation>
+    </message>
+    <message id="SETTING_STR_AT_WALL_HINT">
+        <source></source>
+        <extracomment>explains "At the wall"</extracomment>
+        <translation>What the supply draws from the socket counts: its output, and what it loses as heat. Your meter does the same.</translation>
+    </message>
+    <message id="SETTING_STR_GAPS">
+        <source></source>
+        <extracomment>name of a row without a control</extracomment>
+        <translation>Gaps never count</translation>
+    </message>
+    <message id="SETTING_STR_GAPS_HINT">
+        <source></source>
+        <extracomment>explains "Gaps never count"</extracomment>
+        <translation>While the program is closed or the supply is not connected, nothing is added and nothing is guessed.</translation>
+    </message>
+    <message id="SETTING_STR_WARNINGS">
+        <source></source>
+        <extracomment>title of a card with the three warning switches; each goes on with "When ..."</extracomment>
+        <translation>Warn me</translation>
+    </message>
+    <message id="SETTING_STR_ALARM_LOG">
+        <source></source>
+        <extracomment>name of a row; its button leads to the alarms page</extracomment>
+        <translation>Alarm log</translation>
+    </message>
+    <message id="SETTING_STR_ALARM_LOG_HINT">
+        <source></source>
+        <extracomment>what is found there</extracomment>
+        <translation>Which alarms hold now, and when there were some before.</translation>
+    </message>
+    <message id="SETTING_STR_SOCKET">
+        <source></source>
+        <extracomment>title of a card</extracomment>
+        <translation>Control socket</translation>
+    </message>
+    <message id="SETTING_STR_SOCKET_HINT">
+        <source></source>
+        <extracomment>what the control socket is for</extracomment>
+        <translation>Lets music players, home automation and scripts on this PC set the lights.</translation>
+    </message>
+    <message id="SETTING_STR_ALLOW_REMOTE">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Allow other computers</translation>
+    </message>
+    <message id="SETTING_STR_ALLOW_REMOTE_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>Programs on other computers may set the lights as well.</translation>
+    </message>
+    <message id="SETTING_STR_ALLOW_REMOTE_WARNING">
+        <source></source>
+        <extracomment>warning about the switch "Allow other computers"; "them": the lights</extracomment>
+        <translation>There is no password: anybody on your network can then set them.</translation>
+    </message>
+    <message id="SETTING_STR_MQTT">
+        <source></source>
+        <extracomment>title of a card</extracomment>
+        <translation>MQTT</translation>
+    </message>
+    <message id="SETTING_STR_MQTT_HINT">
+        <source></source>
+        <extracomment>what MQTT is for</extracomment>
+        <translation>Lets home automation read the supply and control it, through a broker on your network.</translation>
+    </message>
+    <message id="SETTING_STR_HOST">
+        <source></source>
+        <extracomment>name of a row: the computer that the MQTT broker runs on</extracomment>
+        <translation>Host</translation>
+    </message>
+    <message id="SETTING_STR_HOST_HINT">
+        <source></source>
+        <extracomment>about the entry "Host"</extracomment>
+        <translation>Name or address of the broker. Empty: no MQTT.</translation>
+    </message>
+    <message id="SETTING_STR_HOST_FIRST">
+        <source></source>
+        <extracomment>below the entry "Host" while it is empty</extracomment>
+        <translation>Enter a host to set up the rest.</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_HOST">
+        <source></source>
+        <extracomment>why a row is disabled: the entry "Host" is empty</extracomment>
+        <translation>Needs a host.</translation>
+    </message>
+    <message id="SETTING_STR_PORT">
+        <source></source>
+        <extracomment>name of a row: a network port</extracomment>
+        <translation>Port</translation>
+    </message>
+    <message id="SETTING_STR_PORT_HINT">
+        <source></source>
+        <extracomment>about the port of the broker</extracomment>
+        <translation>Usually 1883, or 8883 with a CA file.</translation>
+    </message>
+    <message id="SETTING_STR_USER">
+        <source></source>
+        <extracomment>name of a row: user name at the broker</extracomment>
+        <translation>User</translation>
+    </message>
+    <message id="SETTING_STR_USER_HINT">
+        <source></source>
+        <extracomment>about the user name</extracomment>
+        <translation>Empty if the broker asks for none.</translation>
+    </message>
+    <message id="SETTING_STR_PASSWORD">
+        <source></source>
+        <extracomment>name of a row: password at the broker</extracomment>
+        <translation>Password</translation>
+    </message>
+    <message id="SETTING_STR_PASSWORD_HINT">
+        <source></source>
+        <extracomment>about the password</extracomment>
+        <translation>Without a CA file it crosses the network unencrypted.</translation>
+    </message>
+    <message id="SETTING_STR_SHOW">
+        <source></source>
+        <extracomment>button beside the password: shows it in clear text</extracomment>
+        <translation>Show</translation>
+    </message>
+    <message id="SETTING_STR_HIDE">
+        <source></source>
+        <extracomment>button beside the password: shows it as dots again</extracomment>
+        <translation>Hide</translation>
+    </message>
+    <message id="SETTING_STR_CA">
+        <source></source>
+        <extracomment>name of a row: the file with the certificate of the authority (CA)</extracomment>
+        <translation>CA file</translation>
+    </message>
+    <message id="SETTING_STR_CA_HINT">
+        <source></source>
+        <extracomment>about the CA file</extracomment>
+        <translation>Encrypts the connection: the certificate of the authority that the broker is checked against (PEM).</translation>
+    </message>
+    <message id="SETTING_STR_CHOOSE">
+        <source></source>
+        <extracomment>button beside the CA file: opens a file dialog</extracomment>
+        <translation>Choose …</translation>
+    </message>
+    <message id="SETTING_STR_CA_TITLE">
+        <source></source>
+        <extracomment>title of a file dialog</extracomment>
+        <translation>Choose the CA file</translation>
+    </message>
+    <message id="SETTING_STR_CA_FILTER">
+        <source></source>
+        <extracomment>file types of a file dialog; keep what is in brackets, and the ;;</extracomment>
+        <translation>Certificates (*.pem *.crt *.cer);;All files (*)</translation>
+    </message>
+    <message id="SETTING_STR_TOPICS">
+        <source></source>
+        <extracomment>small caption above the MQTT topic settings</extracomment>
+        <translation>Topics</translation>
+    </message>
+    <message id="SETTING_STR_PUBLISH">
+        <source></source>
+        <extracomment>name of a row: beginning of the MQTT topic that the program writes to</extracomment>
+        <translation>Publish prefix</translation>
+    </message>
+    <message id="SETTING_STR_PUBLISH_HINT">
+        <source></source>
+        <extracomment>about the publish prefix</extracomment>
+        <translation>Start of the topic that answers go to.</translation>
+    </message>
+    <message id="SETTING_STR_ACCOUNT">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Account ID</translation>
+    </message>
+    <message id="SETTING_STR_ACCOUNT_HINT">
+        <source></source>
+        <extracomment>about the account ID</extracomment>
+        <translation>End of the topic that answers go to. May be empty.</translation>
+    </message>
+    <message id="SETTING_STR_SUBSCRIBE">
+        <source></source>
+        <extracomment>name of a row: beginning of the MQTT topic that the program reads from</extracomment>
+        <translation>Subscribe prefix</translation>
+    </message>
+    <message id="SETTING_STR_SUBSCRIBE_HINT">
+        <source></source>
+        <extracomment>about the subscribe prefix</extracomment>
+        <translation>Start of the topic that commands come from.</translation>
+    </message>
+    <message id="SETTING_STR_PRODUCT">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Product ID</translation>
+    </message>
+    <message id="SETTING_STR_PRODUCT_HINT">
+        <source></source>
+        <extracomment>about the product ID</extracomment>
+        <translation>End of the topic that commands come from. May be empty.</translation>
+    </message>
+    <message id="SETTING_STR_APPLY">
+        <source></source>
+        <extracomment>button: the MQTT settings as entered hold from now on</extracomment>
+        <translation>Apply</translation>
+    </message>
+    <message id="SETTING_STR_DISCARD">
+        <source></source>
+        <extracomment>button: the edits of the MQTT settings are taken back</extracomment>
+        <translation>Discard</translation>
+    </message>
+    <message id="SETTING_STR_UNSAVED">
+        <source></source>
+        <extracomment>beside the buttons Apply and Discard while there are edits; also a tooltip in the list of sections</extracomment>
+        <translation>Not applied yet</translation>
+    </message>
+    <message id="SETTING_STR_UNSAVED_ROW">
+        <source></source>
+        <extracomment>below an entry that was edited; Enter and Escape are keys</extracomment>
+        <translation>Not applied yet. Enter applies, Escape discards.</translation>
+    </message>
+    <message id="SETTING_STR_DISCOVERY">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Home Assistant discovery</translation>
+    </message>
+    <message id="SETTING_STR_DISCOVERY_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>The supply appears in Home Assistant by itself.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_HOST">
+        <source></source>
+        <extracomment>the host that was entered is no host</extracomment>
+        <translation>Only the name or address, without blanks and slashes; the port has its own entry.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_PORT">
+        <source></source>
+        <extracomment>the port that was entered is none; %1: 65535</extracomment>
+        <translation>A port is a whole number from 1 to %1.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_NO_PREFIX">
+        <source></source>
+        <extracomment>a prefix that was entered is wrong</extracomment>
+        <translation>It must not be empty.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_PREFIX">
+        <source></source>
+        <extracomment>a prefix that was entered is wrong</extracomment>
+        <translation>Blanks, # and + are not possible here.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_SLASH">
+        <source></source>
+        <extracomment>a prefix that was entered is wrong</extracomment>
+        <translation>It must not begin with /.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_ID">
+        <source></source>
+        <extracomment>an account or product ID that was entered is wrong</extracomment>
+        <translation># and + are not possible here.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_FILE">
+        <source></source>
+        <extracomment>the CA file that was entered is not there</extracomment>
+        <translation>There is no such file.</translation>
+    </message>
+    <message id="SETTING_STR_FAULT_UNREADABLE">
+        <source></source>
+        <extracomment>the CA file that was entered may not be read</extracomment>
+        <translation>This file can’t be read.</translation>
+    </message>
+    <message id="SETTING_STR_METRICS">
+        <source></source>
+        <extracomment>title of a card: figures for monitoring programs</extracomment>
+        <translation>Metrics</translation>
+    </message>
+    <message id="SETTING_STR_METRICS_HINT">
+        <source></source>
+        <extracomment>what the metrics are for</extracomment>
+        <translation>Lets Prometheus and other monitoring programs on this PC collect the readings.</translation>
+    </message>
+    <message id="SETTING_STR_METRICS_ON">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Offer metrics</translation>
+    </message>
+    <message id="SETTING_STR_METRICS_ON_HINT">
+        <source></source>
+        <extracomment>about the switch; "them": the metrics</extracomment>
+        <translation>Only programs on this PC can read them.</translation>
+    </message>
+    <message id="SETTING_STR_METRICS_PORT_HINT">
+        <source></source>
+        <extracomment>about the port of the metrics</extracomment>
+        <translation>Choose another one if this one is taken.</translation>
+    </message>
+    <message id="SETTING_STR_POWER">
+        <source></source>
+        <extracomment>title of a card with the row remote shutdown</extracomment>
+        <translation>Power</translation>
+    </message>
+    <message id="SETTING_STR_REMOTE_POWER">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Remote shutdown</translation>
+    </message>
+    <message id="SETTING_STR_REMOTE_POWER_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>A command over MQTT may shut this PC down, restart it or put it to sleep. You have a minute to cancel.</translation>
+    </message>
+    <message id="SETTING_STR_REMOTE_POWER_WARNING">
+        <source></source>
+        <extracomment>warning about the switch "Remote shutdown"</extracomment>
+        <translation>Anybody who may send to your broker can then do it.</translation>
+    </message>
+    <message id="SETTING_STR_SENSORS_CARD">
+        <source></source>
+        <extracomment>title of a card</extracomment>
+        <translation>Sensors of this PC</translation>
+    </message>
+    <message id="SETTING_STR_READ_SENSORS">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Read the PC’s own sensors</translation>
+    </message>
+    <message id="SETTING_STR_READ_SENSORS_HINT">
+        <source></source>
+        <extracomment>what the switch does</extracomment>
+        <translation>Shows processor and graphics card beside the supply’s readings.</translation>
+    </message>
+    <message id="SETTING_STR_PLACE">
+        <source></source>
+        <extracomment>title of a card with the data folder</extracomment>
+        <translation>Where it is kept</translation>
+    </message>
+    <message id="SETTING_STR_FOLDER">
+        <source></source>
+        <extracomment>name of a row; the path stands below</extracomment>
+        <translation>Data folder</translation>
+    </message>
+    <message id="SETTING_STR_FOLDER_HINT">
+        <source></source>
+        <extracomment>what is in the data folder</extracomment>
+        <translation>Holds the settings, the recorded history and the alarm log.</translation>
+    </message>
+    <message id="SETTING_STR_OPEN_FOLDER">
+        <source></source>
+        <extracomment>button: shows the data folder in the file manager</extracomment>
+        <translation>Open folder</translation>
+    </message>
+    <message id="SETTING_STR_FILE">
+        <source></source>
+        <extracomment>title of a card with export, import and reset</extracomment>
+        <translation>All settings</translation>
+    </message>
+    <message id="SETTING_STR_EXPORT">
+        <source></source>
+        <extracomment>name of a row and title of a file dialog</extracomment>
+        <translation>Export settings</translation>
+    </message>
+    <message id="SETTING_STR_EXPORT_HINT">
+        <source></source>
+        <extracomment>about the export</extracomment>
+        <translation>Into a file: as a backup, or for another PC.</translation>
+    </message>
+    <message id="SETTING_STR_EXPORT_BUTTON">
+        <source></source>
+        <extracomment>button: opens a file dialog</extracomment>
+        <translation>Export …</translation>
+    </message>
+    <message id="SETTING_STR_IMPORT">
+        <source></source>
+        <extracomment>name of a row and title of a file dialog</extracomment>
+        <translation>Import settings</translation>
+    </message>
+    <message id="SETTING_STR_IMPORT_HINT">
+        <source></source>
+        <extracomment>about the import</extracomment>
+        <translation>Replaces all settings by those of such a file.</translation>
+    </message>
+    <message id="SETTING_STR_IMPORT_BUTTON">
+        <source></source>
+        <extracomment>button: opens a file dialog</extracomment>
+        <translation>Import …</translation>
+    </message>
+    <message id="SETTING_STR_FILES">
+        <source></source>
+        <extracomment>the file type of an export of the settings, in a file dialog</extracomment>
+        <translation>ZPS G settings</translation>
+    </message>
+    <message id="SETTING_STR_RESET">
+        <source></source>
+        <extracomment>name of a row</extracomment>
+        <translation>Reset all settings</translation>
+    </message>
+    <message id="SETTING_STR_RESET_HINT">
+        <source></source>
+        <extracomment>what the reset does</extracomment>
+        <translation>Everything as it was at the first start. Your records are kept.</translation>
+    </message>
+    <message id="SETTING_STR_RESET_BUTTON">
+        <source></source>
+        <extracomment>button: asks whether to reset</extracomment>
+        <translation>Reset …</translation>
+    </message>
+    <message id="SETTING_STR_RESET_ASK">
+        <source></source>
+        <extracomment>question in place of the button; the answers are "Yes, reset" and "No"</extracomment>
+        <translation>Reset all of it?</translation>
+    </message>
+    <message id="SETTING_STR_RESET_YES">
+        <source></source>
+        <extracomment>answer to "Reset all of it?"</extracomment>
+        <translation>Yes, reset</translation>
+    </message>
+    <message id="SETTING_STR_RESET_NO">
+        <source></source>
+        <extracomment>answer to "Reset all of it?"</extracomment>
+        <translation>No</translation>
     </message>
 </context>
 </TS>

@@ -1,19 +1,27 @@
 #include "app/CvZpsGV2.h"
 
 #include "app/DaySettings.h"
+#include "app/EnergyFeed.h"
 #include "app/FanFeed.h"
 #include "app/HistoryFeed.h"
 #include "app/LightingFeed.h"
 #include "app/Logging.h"
+#include "app/PcFeed.h"
+#include "app/SettingsFeed.h"
 #include "app/SocketWiring.h"
+#include "app/TrayFeed.h"
 #include "app/ViewFeed.h"
+#include "app/WindowMemory.h"
 #include "platform/DeviceAccess.h"
 #include "platform/NativeEvent.h"
 #include "remote/SocketHelper.h"
-#include "sensors/pcInfoReader.h"
+#include "ui/AboutPage.h"
+#include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
+#include "ui/EnergyView.h"
 #include "ui/MainView.h"
 #include "ui/TitleBar.h"
+#include "ui/TrendPanel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -35,10 +43,11 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , paths_(std::move(parts.paths))
     , demo_(parts.demo)
     , settings_(paths_.data)
+    , appearance_(settings_, paths_.resources + QStringLiteral("/Language"))
     , supply_(std::move(parts.backend), parts.timing, paths_.curveFolders())
     , lighting_(supply_, settings_)
     , fan_(supply_, settings_)
-    , usage_(supply_, settings_)
+    , usage_(supply_, settings_, paths_.data)
     , power_(settings_)
     , alarms_(settings_, paths_.data + QStringLiteral("/alarms.jsonl"), parts.random)
     , day_(dayStorage(settings_))
@@ -48,7 +57,6 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
     , random_(std::move(parts.random))
     , socketPort_(parts.socketPort) {
     readSettings();
-    loadLanguage();
     buildWindow();
     connectTitleBar();
     createTray();
@@ -62,17 +70,14 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
         startFastClock(parts.fastClockFactor);
     }
     saveData();
-    alignAutostart();
+    settingsFeed_->alignAutostart();
     if (!demo_) {
         platform::sendToWindow(platform::kCompanionWindowTitle, {platform::kCompanionNotice, 0, 0},
                                kCompanionPatience);
     }
 }
 
-CvZpsGV2::~CvZpsGV2() {
-    sensorThread_.quit();
-    sensorThread_.wait();
-}
+CvZpsGV2::~CvZpsGV2() = default;
 
 void CvZpsGV2::buildWindow() {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
@@ -80,8 +85,9 @@ void CvZpsGV2::buildWindow() {
     setWindowIcon(QIcon(paths_.resources + QStringLiteral("/Image/ZPSapp.png")));
     view_ = new ui::MainView(this);
     setCentralWidget(view_);
-    resize(ui::MainView::kDefaultSize);
     setMinimumSize(ui::MainView::kMinimumSize);
+    memory_ = std::make_unique<WindowMemory>(*this, *view_, settings_);
+    connect(view_, &ui::MainView::pageShown, this, &CvZpsGV2::tabChange);
 }
 
 void CvZpsGV2::readSettings() {
@@ -90,26 +96,6 @@ void CvZpsGV2::readSettings() {
                      {Setting::TotalUsedKwh, settings_.real(Setting::TotalUsedKwh)},
                      {Setting::TotalUsedCost, settings_.real(Setting::TotalUsedCost)},
                      {Setting::LastUsedTime, settings_.integer(Setting::LastUsedTime)}});
-}
-
-void CvZpsGV2::loadLanguage() {
-    const QString folder = paths_.resources + QStringLiteral("/Language");
-    // English lies below every language, so that a text which a translation lacks is readable all the same.
-    if (english_.load(QStringLiteral("en.qm"), folder)) {
-        QCoreApplication::installTranslator(&english_);
-    } else {
-        qCWarning(lcApp).noquote() << "no translation file" << folder + QStringLiteral("/en.qm");
-    }
-    changeLanguage();
-}
-
-void CvZpsGV2::changeLanguage() {
-    QCoreApplication::removeTranslator(&translator_);
-    const QString language = settings_.text(Setting::Language);
-    const QString folder = paths_.resources + QStringLiteral("/Language");
-    if (language != QLatin1String("en") && translator_.load(language + QStringLiteral(".qm"), folder)) {
-        QCoreApplication::installTranslator(&translator_);
-    }
 }
 
 void CvZpsGV2::resetLanguage() {
@@ -145,6 +131,7 @@ void CvZpsGV2::createServices() {
     connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::takeSample);
     connect(monitor, &psu::SupplyMonitor::readingTaken, this, &CvZpsGV2::thermalMode12LEDSlot);
     connect(&alarms_, &Alarms::changed, this, &CvZpsGV2::takeAlarms);
+    connect(&sensors_, &SensorThread::openFail, this, &CvZpsGV2::hwinfoOpenFail);
     connect(&lighting_, &Lighting::missingFile, this, &CvZpsGV2::tellMissingLightingFile);
     deviceWatch_ =
         platform::DeviceWatch::start([this](const WindowMessage &message) { return windowMessage(message); });
@@ -168,17 +155,43 @@ void CvZpsGV2::createRemote() {
 void CvZpsGV2::setUpPages() {
     auto *dashboard = view_->dashboard();
     dashboard->setDemo(demo_);
+    view_->about()->setDataFolder(paths_.data);
     dashboard->setRemedy(
         QString::fromStdString(platform::deviceAccessRemedy(paths_.resources.toStdString())));
     new HistoryFeed(
         recorder_, paths_.data, [this] { return now(); }, *view_->history(), this);
     new LightingFeed(lighting_, supply_, *view_->lighting(), this);
     fanFeed_ = new FanFeed(fan_, supply_, *view_->fan(), this);
-    feed_ = new ViewFeed(supply_, alarms_, fan_, day_, settings_, *view_, random_, this);
+    feed_ = new ViewFeed(supply_, alarms_, fan_, day_, settings_, *view_, demo_, random_, this);
+    createFeeds();
     view_->setMainEnabled(supply_.present());
     day_.loadDayProfile(now().date());
     feed_->showDay(now());
     demoInfo();
+}
+
+void CvZpsGV2::createFeeds() {
+    const std::string executable = demo_ ? std::string() : paths_.executable.toStdString();
+    settingsFeed_ = new SettingsFeed(
+        {settings_, alarms_, fan_, lighting_, usage_, sensors_, *remote_, *socket_, paths_.data, executable},
+        *view_->settings(), this);
+    connect(settingsFeed_, &SettingsFeed::languageChosen, this, &CvZpsGV2::resetLanguage);
+    connect(settingsFeed_, &SettingsFeed::unitsChosen, this, &CvZpsGV2::tempUnitSelected);
+    connect(settingsFeed_, &SettingsFeed::ratesRequested, this, &CvZpsGV2::popUpEleCost);
+    connect(settingsFeed_, &SettingsFeed::changed, this, &CvZpsGV2::takeSettings);
+    connect(settingsFeed_, &SettingsFeed::alarmsRequested, this,
+            [this] { view_->showPage(ui::MainView::Page::Alarms); });
+    connect(view_->alarms(), &ui::AlarmsPage::warningToggled, settingsFeed_, &SettingsFeed::showWarnings);
+    auto *trends = view_->dashboard()->trends();
+    energyFeed_ = new EnergyFeed(usage_, settings_, *trends->energy(), *view_->rates(), this);
+    connect(energyFeed_, &EnergyFeed::rateConfirmed, this, &CvZpsGV2::changeEleRate);
+    connect(trends->energy(), &ui::EnergyView::rateRequested, this, &CvZpsGV2::popUpEleCost);
+    connect(trends, &ui::TrendPanel::viewChanged, this, &CvZpsGV2::tabChange);
+    pcFeed_ = new PcFeed(sensors_, *trends->pc(), this);
+    connect(pcFeed_, &PcFeed::enableRequested, this, [this] { settingsFeed_->readSensors(true); });
+    trayFeed_ = new TrayFeed({supply_, alarms_, fan_, lighting_, settings_}, *tray_, this);
+    connect(trayFeed_, &TrayFeed::speedWanted, this, &CvZpsGV2::showAgain);
+    connect(trayFeed_, &TrayFeed::speedWanted, this, &CvZpsGV2::popUpFanModel);
 }
 
 void CvZpsGV2::startTimers() {
@@ -190,7 +203,8 @@ void CvZpsGV2::startTimers() {
     addTimer(60000, &CvZpsGV2::ClockTick);
     addTimer(60000, &CvZpsGV2::slotsTimePass);
     if (settings_.flag(Setting::SensorsEnabled)) {
-        startSensorTimer();
+        settingsFeed_->readSensors(true);
+        pcFeed_->showState();
     }
 }
 
@@ -200,27 +214,6 @@ QTimer *CvZpsGV2::addTimer(int milliseconds, void (CvZpsGV2::*slot)()) {
     connect(timer, &QTimer::timeout, this, slot);
     timer->start(milliseconds);
     return timer;
-}
-
-void CvZpsGV2::startSensorTimer() {
-    sensors_ = std::make_unique<sensors::pcInfoReader>();
-    sensorTimer_ = std::make_unique<QTimer>();
-    connect(sensors_.get(), &sensors::pcInfoReader::openFail, this, &CvZpsGV2::hwinfoOpenFail);
-    connect(sensorTimer_.get(), &QTimer::timeout, sensors_.get(), &sensors::pcInfoReader::refreshInfo);
-    sensorTimer_->setInterval(1000);
-    sensors_->moveToThread(&sensorThread_);
-    sensorTimer_->moveToThread(&sensorThread_);
-    connect(&sensorThread_, &QThread::started, sensorTimer_.get(), qOverload<>(&QTimer::start));
-    connect(&sensorThread_, &QThread::finished, sensorTimer_.get(), &QTimer::stop);
-    sensorThread_.start(QThread::InheritPriority);
-}
-
-void CvZpsGV2::alignAutostart() {
-    std::string error;
-    if (!demo_ &&
-        !platform::setAutostart(settings_.flag(Setting::Autostart), paths_.executable.toStdString(), error)) {
-        qCWarning(lcApp) << "the autostart entry can't be set:" << error.c_str();
-    }
 }
 
 void CvZpsGV2::demoInfo() {
@@ -237,7 +230,7 @@ void CvZpsGV2::ClockTick() {
 void CvZpsGV2::saveData() {
     // A minute without a fresh reading is a gap and no row.
     if (monitor().hasReading() && monitor().state() == psu::LinkState::Live) {
-        recorder_.saveData(monitor().record(), monitor().serialText(), now());
+        recorder_.saveData(monitor().record(), monitor().serialText(), rowFields(sensors_.reading()), now());
     }
 }
 
@@ -257,6 +250,11 @@ void CvZpsGV2::passFastMinute() {
     fastClock_->passMinute();
     readInfo();
     demoInfo();
+    usage_.passMinute(now());
+    if (now().time().minute() == 0) { // each minute would be many times a second
+        slotsTimePass();
+    }
+    showUsage();
     ClockTick();
     saveData();
     getNextDailySettlement();
@@ -270,8 +268,43 @@ void CvZpsGV2::takeSample() {
 }
 
 void CvZpsGV2::takeSecond() {
-    usage_.tick(std::chrono::steady_clock::now());
+    usage_.tick(std::chrono::steady_clock::now(), now());
     remote_->takeReading();
+    showUsage();
+    trayFeed_->tick();
+    view_->titleBar()->setTrayAvailable(Tray::available()); // it may come and go with the desktop
+}
+
+void CvZpsGV2::showUsage() {
+    energyFeed_->tick(now());
+    settingsFeed_->tick(now());
+}
+
+// What a changed setting means to more than one part.
+void CvZpsGV2::takeSettings() {
+    pcFeed_->showState();
+    feed_->showWarnings();
+    trayFeed_->tick();
+}
+
+void CvZpsGV2::hwinfoOpenFail(const QString &reason) {
+    qCWarning(lcApp).noquote() << "the PC's sensors can't be read:" << reason;
+    settingsFeed_->sensorsFailed();
+    pcFeed_->fail();
+}
+
+// As many digits as a float holds: 0.3 is not to become 0.300000012.
+void CvZpsGV2::changeEleRate(float rate) {
+    usage_.setRate(QString::number(static_cast<double>(rate), 'g', 7).toDouble());
+}
+
+void CvZpsGV2::popUpEleCost() { energyFeed_->askRates(); }
+
+void CvZpsGV2::settingPageSelect() { view_->showPage(ui::MainView::Page::Settings); }
+
+void CvZpsGV2::tempUnitSelected(const QStringList &unit) {
+    settings_.write({{Setting::TempType, unit.value(0).toInt()}});
+    appearance_.changeUnits(*view_);
 }
 
 void CvZpsGV2::takeAlarms() { lighting_.setAlarmHolds(!alarms_.log().holding().empty()); }
@@ -354,8 +387,9 @@ void CvZpsGV2::showAgain() {
 }
 
 void CvZpsGV2::leaveScreen() {
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+    if (Tray::available()) {
         hide();
+        trayFeed_->tellOnce();
     } else {
         showMinimized(); // without a tray a hidden window could not be brought back from the screen
     }

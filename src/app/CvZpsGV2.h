@@ -4,17 +4,18 @@
 #pragma once
 
 #include "app/Alarms.h"
+#include "app/Appearance.h"
 #include "app/FanControl.h"
 #include "app/Lighting.h"
 #include "app/Paths.h"
 #include "app/Recorder.h"
 #include "app/RemotePower.h"
 #include "app/RemoteServices.h"
+#include "app/SensorThread.h"
 #include "app/Settings.h"
 #include "app/Supply.h"
 #include "app/Tray.h"
 #include "app/Uploader.h"
-#include "platform/Autostart.h"
 #include "platform/DeviceWatch.h"
 #include "platform/SessionWatch.h"
 #include "platform/WindowRendezvous.h"
@@ -24,9 +25,7 @@
 
 #include <QMainWindow>
 #include <QRandomGenerator>
-#include <QThread>
 #include <QTimer>
-#include <QTranslator>
 #include <QVariantMap>
 
 #include <memory>
@@ -35,9 +34,6 @@ class QNetworkReply;
 
 namespace zpsg::remote {
 class SocketHelper;
-}
-namespace zpsg::sensors {
-class pcInfoReader;
 }
 namespace zpsg::ui {
 class MainView;
@@ -57,9 +53,14 @@ struct WindowParts {
     power::RandomSource random = [] { return QRandomGenerator::global()->generate(); };
 };
 
+class EnergyFeed;
 class FanFeed;
 class HistoryFeed;
+class PcFeed;
+class SettingsFeed;
+class TrayFeed;
 class ViewFeed;
+class WindowMemory;
 
 class CvZpsGV2 : public QMainWindow {
     Q_OBJECT
@@ -95,6 +96,7 @@ public:
 
     [[nodiscard]] psu::SupplyMonitor &monitor() { return supply_.monitor(); }
     [[nodiscard]] const Supply &supply() const { return supply_; }
+    [[nodiscard]] ui::MainView &view() { return *view_; }
 
 signals:
     void mainToSocketHelpRGB_State(bool powerPresent, int lightingKind);
@@ -106,21 +108,21 @@ signals:
 
 public slots:
     void controlableFanSpeed(int percent) { fan_.controlableFanSpeed(percent); }
-    void hwinfoOpenFail(const QString &) {}
+    void hwinfoOpenFail(const QString &reason);
     void mqttAnalysis(const QString &text) { remote_->analyse(text); }
-    void tabChange() {}
+    void tabChange() { showUsage(); }
     void readInfo() { supply_.monitor().readInfo(); }
     void demoInfo();
-    void popUpTempUnit() {}
-    void popUpEleCost() {}
-    void changeEleRate(float) {}
-    void settingPageSelect() {}
+    void popUpTempUnit() { settingPageSelect(); }
+    void popUpEleCost();
+    void changeEleRate(float rate);
+    void settingPageSelect();
     void loginFrameEvent() {}
     void logoutFrameEvent() {}
     void saveData();
     void getNextDailySettlement() { recorder_.getNextDailySettlement(now()); }
     void checkUploadState() { uploader_.checkUploadState(serialNumber()); }
-    void changeLanguage();
+    void changeLanguage() { appearance_.changeLanguage(); }
     void resetLanguage();
     void ClockTick();
     void slotsTimePass() { usage_.save(); }
@@ -165,7 +167,7 @@ public slots:
     void thermalMode12LEDSlot() { lighting_.thermalUpdate(); }
     void popUpFanModel() { showFanPage(); }
     void fansModeSelected(const QStringList &mode) { fan_.selectMode(mode); }
-    void tempUnitSelected(const QStringList &) {}
+    void tempUnitSelected(const QStringList &unit);
     void shotDownCheck() {}
     void getMkeyFinishedSlot(QNetworkReply *) {}
     void loginFinishedSlot(QNetworkReply *) {}
@@ -193,15 +195,13 @@ private:
     // The steps of construction, in order.
     void buildWindow();
     void readSettings();
-    void loadLanguage();
     void connectTitleBar();
     void createTray();
     void createServices();
     void createRemote();
     void setUpPages();
     void startTimers();
-    void startSensorTimer();
-    void alignAutostart();
+    void createFeeds();
 
     QTimer *addTimer(int milliseconds, void (CvZpsGV2::*slot)());
     void deviceChanged();
@@ -215,6 +215,8 @@ private:
     void tellMissingLightingFile();
     void takeAlarms();
     void takeSecond();
+    void showUsage();
+    void takeSettings();
     void takeSample();
     void startFastClock(int factor);
     void passFastMinute();
@@ -226,6 +228,7 @@ private:
     Paths paths_;
     bool demo_;
     Settings settings_;
+    Appearance appearance_;
     Supply supply_;
     Lighting lighting_;
     FanControl fan_;
@@ -237,19 +240,20 @@ private:
     Uploader uploader_;
     std::shared_ptr<simulator::FastClock> fastClock_;
     power::RandomSource random_;
-    QTranslator english_;
-    QTranslator translator_;
     ui::MainView *view_ = nullptr; // owned by the window
     ViewFeed *feed_ = nullptr;     // owned by the window
-    FanFeed *fanFeed_ = nullptr;   // owned by the window
+    FanFeed *fanFeed_ = nullptr;   // as are these
+    EnergyFeed *energyFeed_ = nullptr;
+    PcFeed *pcFeed_ = nullptr;
+    SettingsFeed *settingsFeed_ = nullptr;
+    TrayFeed *trayFeed_ = nullptr;
+    std::unique_ptr<WindowMemory> memory_;
     std::unique_ptr<Tray> tray_;
     quint16 socketPort_;
     std::unique_ptr<remote::SocketHelper> socket_;
     std::unique_ptr<RemoteServices> remote_;
     QTimer *readTimer_ = nullptr;
-    QThread sensorThread_;
-    std::unique_ptr<sensors::pcInfoReader> sensors_;
-    std::unique_ptr<QTimer> sensorTimer_; // without parent: it lives in the sensor thread
+    SensorThread sensors_;
     std::unique_ptr<platform::DeviceWatch> deviceWatch_;
     std::unique_ptr<platform::SessionWatch> sessionWatch_;
 };

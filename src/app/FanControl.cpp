@@ -19,14 +19,26 @@ constexpr int kNoneChosen = -1;
 FanControl::FanControl(Supply &supply, Settings &settings, QObject *parent)
     : QObject(parent), supply_(supply), settings_(settings) {
     writeFanDefaultsOnce(settings_);
+    takeSettings();
+    takeProfile();
+    connect(&supply_, &Supply::profileChanged, this, &FanControl::takeProfile);
+    connect(&supply_, &Supply::reopened, this, &FanControl::resend);
+}
+
+void FanControl::takeSettings() {
     percent_ = settings_.integer(Setting::CustomFanPercent);
     curveOn_ = settings_.flag(Setting::FanCurveOn);
     curve_ = loadFanCurve(settings_);
     tuning_ = loadGovernorTuning(settings_);
     governor_.setCurve(curve_, tuning_);
-    takeProfile();
-    connect(&supply_, &Supply::profileChanged, this, &FanControl::takeProfile);
-    connect(&supply_, &Supply::reopened, this, &FanControl::resend);
+}
+
+void FanControl::reload() {
+    takeSettings();
+    restore();
+    driven_.reset();
+    resend();
+    emit changed();
 }
 
 FanControl::~FanControl() { stepBack(); }

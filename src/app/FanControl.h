@@ -35,6 +35,8 @@ public:
     /// Sets a speed, percent (clamped). Without a supply nothing is sent and nothing kept, so that the kept
     /// speed always is one that has reached it. False then.
     bool controlableFanSpeed(int percent);
+    /// Takes everything from the settings again, and sends it.
+    void reload();
     /// Sends the chosen mode or speed again, as after a reconnect; nothing while none was chosen.
     void resend();
 
@@ -60,6 +62,7 @@ signals:
     void speedWanted();
 
 private:
+    void takeSettings();
     void restore();
     void takeProfile();
     void choose(int index);

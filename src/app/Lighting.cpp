@@ -29,14 +29,7 @@ std::optional<float> narrow(std::optional<double> value) {
 Lighting::Lighting(Supply &supply, Settings &settings, QObject *parent)
     : QObject(parent), supply_(supply), settings_(settings), lights_(supply) {
     writeDuoDefaultsOnce(settings_);
-    single_.restore(loadSingleRing(settings_));
-    plus_.restore(loadPlusRing(settings_));
-    duo_ = loadDuo(settings_);
-    inputs_.gauge = static_cast<lighting::GaugeKind>(settings_.integer(Setting::RingGauge));
-    inputs_.palette = static_cast<lighting::Palette>(settings_.flag(Setting::RingSafePalette));
-    inputs_.alarmOnRing = settings_.flag(Setting::RingAlarm);
-    inputs_.offWhenLocked = settings_.flag(Setting::RingOffWhenLocked);
-
+    takeSettings();
     selfBlink_.setInterval(lighting::kSelfBlinkMilliseconds);
     autoBlink_.setInterval(lighting::kAutoBlinkMilliseconds);
     overlayTimer_.setInterval(kOverlaySteps * lighting::kFrameMilliseconds);
@@ -67,6 +60,27 @@ Lighting::~Lighting() {
             lighting::duoFrame(lighting::duoLeds(duo_, {}, 0, 0), lighting::DuoLayout::EachSlot));
     }
     supply_.monitor().waitSent(kPatience);
+}
+
+void Lighting::takeSettings() {
+    single_.restore(loadSingleRing(settings_));
+    plus_.restore(loadPlusRing(settings_));
+    duo_ = loadDuo(settings_);
+    inputs_.gauge = static_cast<lighting::GaugeKind>(settings_.integer(Setting::RingGauge));
+    inputs_.palette = static_cast<lighting::Palette>(settings_.flag(Setting::RingSafePalette));
+    inputs_.alarmOnRing = settings_.flag(Setting::RingAlarm);
+    inputs_.offWhenLocked = settings_.flag(Setting::RingOffWhenLocked);
+    unsaved_ = false;
+}
+
+void Lighting::reload() {
+    takeSettings();
+    if (duoThread_) {
+        duoThread_->setState(duo_);
+    }
+    applyOverlay();
+    resend();
+    emit changed();
 }
 
 void Lighting::fit() {

@@ -61,6 +61,9 @@ public:
     /// The thermal mode of the 12-LED ring; see lighting::PlusRing.
     void thermalUpdate();
 
+    /// Takes everything from the settings again and shows it; what was not saved is dropped.
+    void reload();
+
     /// Saves the fitted ring's state. False when it could not be; where the file is missing, missingFile() is
     /// sent and nothing is written.
     bool saveLED();
@@ -96,6 +99,7 @@ private:
         QString modeText;
     };
 
+    void takeSettings();
     void fit();
     void stateEdited();
     void takeLinkState(psu::LinkState state);

@@ -52,8 +52,9 @@ records::Counters Recorder::counters() {
             }};
 }
 
-void Recorder::saveData(const psu::TelemetryRecord &record, const QString &serial, const QDateTime &now) {
-    const auto result = store_.append(records::makeRow(record, now, serial, {}, random_), now);
+void Recorder::saveData(const psu::TelemetryRecord &record, const QString &serial,
+                        const records::PcSensors &sensors, const QDateTime &now) {
+    const auto result = store_.append(records::makeRow(record, now, serial, sensors, random_), now);
     if (result.beganFailing) {
         qCWarning(lcApp) << "this minute can't be recorded; it is kept and written later";
         emit recordingFailed();

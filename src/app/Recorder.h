@@ -23,7 +23,8 @@ public:
     ~Recorder() override;
 
     /// Records this minute.
-    void saveData(const psu::TelemetryRecord &record, const QString &serial, const QDateTime &now);
+    void saveData(const psu::TelemetryRecord &record, const QString &serial,
+                  const records::PcSensors &sensors, const QDateTime &now);
     /// Settles at most one record file; true when it did.
     bool getNextDailySettlement(const QDateTime &now);
 

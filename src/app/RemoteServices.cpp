@@ -25,10 +25,24 @@ RemoteServices::RemoteServices(Parts parts, QObject *parent) : QObject(parent), 
     startMetrics();
 }
 
-RemoteServices::~RemoteServices() {
+RemoteServices::~RemoteServices() { stopMqtt(); }
+
+void RemoteServices::stopMqtt() {
     if (mqtt_) {
         mqtt_->Disconnect();
     }
+    hub_.reset();
+    mqtt_.reset();
+}
+
+void RemoteServices::restartMqtt() {
+    stopMqtt();
+    startMqtt();
+}
+
+void RemoteServices::restartMetrics() {
+    metrics_.reset();
+    startMetrics();
 }
 
 void RemoteServices::startMqtt() {
@@ -56,7 +70,7 @@ void RemoteServices::startDiscovery() {
     connect(hub_.get(), &remote::HomeAssistantLink::fanSpeedRequested, &parts_.fan,
             &FanControl::controlableFanSpeed);
     connect(hub_.get(), &remote::HomeAssistantLink::lightRequested, this, &RemoteServices::setLight);
-    connect(&parts_.supply, &Supply::profileChanged, this, &RemoteServices::introduce);
+    connect(&parts_.supply, &Supply::profileChanged, hub_.get(), [this] { introduce(); });
     introduce();
 }
 

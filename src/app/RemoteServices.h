@@ -46,6 +46,10 @@ public:
 
     /// Null while no broker is set.
     [[nodiscard]] remote::mqttHelper *mqtt() { return mqtt_.get(); }
+    /// Takes the broker from the settings again: says goodbye to the old one, connects to the new.
+    void restartMqtt();
+    /// The same for the metrics.
+    void restartMetrics();
     /// 0 while no metrics are served.
     [[nodiscard]] quint16 metricsPort() const { return metrics_ ? metrics_->port() : quint16{0}; }
 
@@ -57,6 +61,7 @@ signals:
 
 private:
     void startMqtt();
+    void stopMqtt();
     void startDiscovery();
     void startMetrics();
     void answer(const char *code, const QString &status);

@@ -147,6 +147,24 @@ bool Settings::write(std::initializer_list<std::pair<Setting, QVariant>> values)
         Q_ASSERT(row(id).file == where);
         unwritten_[id] = fitted(row(id), value);
     }
+    return writeFile(where);
+}
+
+bool Settings::writeAll(const QMap<Setting, QVariant> &values) {
+    QMap<SettingsFile, bool> files;
+    for (auto each = values.constBegin(); each != values.constEnd(); ++each) {
+        unwritten_[each.key()] = fitted(row(each.key()), *each);
+        files.insert(row(each.key()).file, true);
+    }
+    bool written = true;
+    for (const SettingsFile file : files.keys()) {
+        written = writeFile(file) && written;
+    }
+    return written;
+}
+
+// Everything of this file that is not written yet.
+bool Settings::writeFile(SettingsFile where) {
     const bool written = storage::changeIniFile(path(where), [this, where](QSettings &file) {
         file.setIniCodec(kIniCodec);
         for (auto kept = unwritten_.constBegin(); kept != unwritten_.constEnd(); ++kept) {

@@ -31,11 +31,16 @@ public:
     /// All values go into the file of the first, which must be the file of them all. False, with a warning
     /// once a file, when it can't be written; reading then still gives the new values until the program ends.
     bool write(std::initializer_list<std::pair<Setting, QVariant>> values);
+    /// The same for values of any files; each file is written once.
+    bool writeAll(const QMap<Setting, QVariant> &values);
+
+    /// As its row's type; see the getters above.
+    [[nodiscard]] QVariant value(Setting id) const;
 
     [[nodiscard]] QString path(SettingsFile file) const;
 
 private:
-    [[nodiscard]] QVariant value(Setting id) const;
+    bool writeFile(SettingsFile where);
     void keepIfDamaged(SettingsFile file) const;
 
     QString dataDir_;

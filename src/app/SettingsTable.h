@@ -42,6 +42,17 @@ enum class Setting {
     FanWarning,
     TempWarning,
     TrendView,
+    Currency,
+    TimeOfUse,
+    TotalWallKwh,
+    LastWallKwh,
+    StartHidden,
+    TrayFigure,
+    TrayTold,
+    WindowWidth,
+    WindowHeight,
+    WindowPage,
+    TextSize,
     RecFileNumber,
     RecFiledayNumber,
     CloudAddress,
@@ -131,7 +142,8 @@ inline constexpr std::array kSettingsTable{
     // 0 Celsius, 1 Fahrenheit
     SettingRow{Setting::TempType, SettingsFile::General, "/Setting/TempType", SettingType::Integer, "0", 0,
                1},
-    SettingRow{Setting::Language, SettingsFile::General, "/Setting/Language", SettingType::Text, "en"},
+    // the name of a file in Language/; empty: the system's language
+    SettingRow{Setting::Language, SettingsFile::General, "/Setting/Language", SettingType::Text, ""},
     // money for a kWh
     SettingRow{Setting::CostTip, SettingsFile::General, "/Setting/Cost_tip", SettingType::Real, "0", 0, 1e6},
     // minutes
@@ -156,9 +168,34 @@ inline constexpr std::array kSettingsTable{
     SettingRow{Setting::FanWarning, SettingsFile::General, "/Setting/FanWarning", SettingType::Flag, "true"},
     SettingRow{Setting::TempWarning, SettingsFile::General, "/Setting/TempWarning", SettingType::Flag,
                "true"},
-    // the dashboard's lower card: 0 last minutes, 1 today, 2 efficiency
-    SettingRow{Setting::TrendView, SettingsFile::General, "/Setting/TrendView", SettingType::Integer, "0", 0,
+    // the dashboard's lower card: 0 last minutes, 1 today, 2 efficiency, 3 energy, 4 the PC
+    SettingRow{Setting::TrendView, SettingsFile::General, "/Setting/TrendView", SettingType::Choice, "0", 0,
+               4},
+    // of money, as an ISO 4217 code; empty: the country's
+    SettingRow{Setting::Currency, SettingsFile::General, "/Setting/Currency", SettingType::Text, ""},
+    // rates by the hours of the week, as power::Tariff writes them; empty: Cost_tip at all times
+    SettingRow{Setting::TimeOfUse, SettingsFile::General, "/Setting/TimeOfUse", SettingType::Text, ""},
+    // as totalUsedKWH and lastUsedKWH, at the wall instead of at the output
+    SettingRow{Setting::TotalWallKwh, SettingsFile::General, "/Setting/totalWallKWH", SettingType::Real, "0",
+               0, kManyUnits},
+    SettingRow{Setting::LastWallKwh, SettingsFile::General, "/Setting/lastWallKWH", SettingType::Real, "0", 0,
+               kManyUnits},
+    // started by the system: straight into the tray
+    SettingRow{Setting::StartHidden, SettingsFile::General, "/Setting/StartHidden", SettingType::Flag,
+               "true"},
+    // on the tray's icon: 0 load, 1 temperature, 2 nothing
+    SettingRow{Setting::TrayFigure, SettingsFile::General, "/Setting/TrayFigure", SettingType::Choice, "0", 0,
                2},
+    // the user knows that a closed window goes on in the tray
+    SettingRow{Setting::TrayTold, SettingsFile::General, "/Setting/TrayTold", SettingType::Flag, "false"},
+    // as the window was left; device-independent pixels
+    SettingRow{Setting::WindowWidth, SettingsFile::General, "/Window/Width", SettingType::Integer, "1100",
+               960, 16384},
+    SettingRow{Setting::WindowHeight, SettingsFile::General, "/Window/Height", SettingType::Integer, "720",
+               620, 16384},
+    SettingRow{Setting::WindowPage, SettingsFile::General, "/Window/Page", SettingType::Choice, "0", 0, 6},
+    // 0 usual, 1 large
+    SettingRow{Setting::TextSize, SettingsFile::General, "/Window/TextSize", SettingType::Choice, "0", 0, 1},
     // the newest record file, and the newest that is settled
     SettingRow{Setting::RecFileNumber, SettingsFile::General, "/Setting/RecFileNumber", SettingType::Integer,
                "0", 0, kManyFiles},

@@ -6,9 +6,12 @@
 #include "platform/ExitRequest.h"
 #include "platform/SystemMenu.h"
 #include "platform/WindowRendezvous.h"
+#include "ui/DashboardPage.h"
+#include "ui/MainView.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QProcess>
 #include <QTimer>
 
 #include <cstdio>
@@ -59,6 +62,49 @@ private:
     bool painted_ = false;
 };
 
+/// Runs the event loop with the window. True in `change` when the user wants to change between the supply and
+/// a simulated one.
+int runLoop(const CommandLine &line, const Paths &paths, std::unique_ptr<platform::TitleClaim> title,
+            bool &change) {
+    const auto clock = makeFastClock(line);
+    WindowParts parts{paths, makeBackend(line, clock), line.demo};
+    parts.fastClock = clock;
+    parts.fastClockFactor = line.fastClock;
+    CvZpsGV2 window(std::move(parts));
+    if (lcApp().isDebugEnabled()) {
+        new FirstPaint(window); // the window owns it
+    }
+    const auto leave = [&change] {
+        change = true;
+        QCoreApplication::quit();
+    };
+    QObject::connect(window.view().dashboard(), &ui::DashboardPage::demoRequested, &window, leave);
+    QObject::connect(window.view().dashboard(), &ui::DashboardPage::demoEndRequested, &window, leave);
+    window.show();
+    window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
+    if (title) { // the system may have refused it; better a program that a second start can't find than none
+        title->deliverTo(
+            [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
+    }
+    if (line.startHidden) {
+        QTimer::singleShot(kHideAfterMilliseconds, &window, SLOT(hide()));
+    }
+    platform::trimSystemMenu(platform::kMainWindowTitle);
+    return QApplication::exec();
+}
+
+/// The program once more, with the other kind of supply. This one has given everything back by now.
+void startOther(const CommandLine &line, const Paths &paths) {
+    QStringList arguments;
+    if (!line.demo) {
+        arguments << QStringLiteral("--demo");
+    }
+    if (line.dataDir) {
+        arguments << QStringLiteral("--data-dir") << *line.dataDir;
+    }
+    QProcess::startDetached(paths.executable, arguments);
+}
+
 } // namespace
 
 int runWithWindow(const CommandLine &line, const Paths &paths) {
@@ -71,32 +117,19 @@ int runWithWindow(const CommandLine &line, const Paths &paths) {
         return showOther();
     }
     // Of several starts at the same moment all get here; one takes the title.
-    const auto title = platform::TitleClaim::tryTake(platform::kMainWindowTitle);
+    auto title = platform::TitleClaim::tryTake(platform::kMainWindowTitle);
     if (!title && platform::windowExists(platform::kMainWindowTitle)) {
         return showOther();
     }
 
     QApplication::setQuitOnLastWindowClosed(false);
     platform::onExitRequest([] { QCoreApplication::quit(); });
-    const auto clock = makeFastClock(line);
-    WindowParts parts{paths, makeBackend(line, clock), line.demo};
-    parts.fastClock = clock;
-    parts.fastClockFactor = line.fastClock;
-    CvZpsGV2 window(std::move(parts));
-    if (lcApp().isDebugEnabled()) {
-        new FirstPaint(window); // the window owns it
+    bool change = false;
+    const int code = runLoop(line, paths, std::move(title), change);
+    if (change) {
+        startOther(line, paths);
     }
-    window.show();
-    window.setWindowTitle(QString::fromLatin1(platform::kMainWindowTitle));
-    if (title) { // the system may have refused it; better a program that a second start can't find than none
-        title->deliverTo(
-            [&window](const platform::WindowMessage &message) { return window.windowMessage(message); });
-    }
-    if (line.startHidden) {
-        QTimer::singleShot(kHideAfterMilliseconds, &window, SLOT(hide()));
-    }
-    platform::trimSystemMenu(platform::kMainWindowTitle);
-    return QApplication::exec();
+    return code;
 }
 
 } // namespace zpsg::app

@@ -1,5 +1,6 @@
 #include "app/ViewFeed.h"
 
+#include "ui/AboutPage.h"
 #include "ui/AlarmBanner.h"
 #include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
@@ -12,7 +13,8 @@ using psu::AlarmGroup;
 using psu::AlarmKind;
 
 ViewFeed::ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const power::DayProfile &day,
-                   Settings &settings, ui::MainView &view, power::RandomSource random, QObject *parent)
+                   Settings &settings, ui::MainView &view, bool demo, power::RandomSource random,
+                   QObject *parent)
     : QObject(parent)
     , supply_(supply)
     , alarms_(alarms)
@@ -20,6 +22,7 @@ ViewFeed::ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const 
     , day_(day)
     , settings_(settings)
     , view_(view)
+    , demo_(demo)
     , random_(std::move(random)) {
     connect(&supply_.monitor(), &psu::SupplyMonitor::stateChanged, this, &ViewFeed::showLinkState);
     connect(&supply_.monitor(), &psu::SupplyMonitor::identityTaken, this, &ViewFeed::showLinkState);
@@ -37,23 +40,40 @@ ViewFeed::ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const 
 
 void ViewFeed::connectAlarms() {
     auto *page = view_.alarms();
-    for (const auto group : {AlarmGroup::Voltage, AlarmGroup::Fan, AlarmGroup::Temperature}) {
-        page->setWarning(group, alarms_.warning(group));
-    }
+    showWarnings();
     connect(page, &ui::AlarmsPage::warningToggled, &alarms_, &Alarms::setWarning);
     connect(page, &ui::AlarmsPage::clearRequested, &alarms_, &Alarms::clearLog);
     connect(&alarms_, &Alarms::changed, this, &ViewFeed::showAlarms);
     showAlarms();
 }
 
+void ViewFeed::showWarnings() {
+    for (const auto group : {AlarmGroup::Voltage, AlarmGroup::Fan, AlarmGroup::Temperature}) {
+        view_.alarms()->setWarning(group, alarms_.warning(group));
+    }
+}
+
 void ViewFeed::showLinkState() {
     view_.dashboard()->showLinkState(supply_.monitor().state(), supply_.monitor().modelText());
+    showSupply();
+}
+
+void ViewFeed::showSupply() {
+    using Link = ui::AboutSupply::Link;
+    const auto &monitor = supply_.monitor();
+    view_.about()->setSupply({monitor.modelText(), static_cast<double>(supply_.profile().ratedWatts),
+                              monitor.serialText(),
+                              !supply_.present()         ? Link::None
+                              : demo_                    ? Link::Demo
+                              : monitor.rawPathPresent() ? Link::Raw
+                                                         : Link::Main});
 }
 
 void ViewFeed::showProfile() {
     const auto &efficiency = supply_.efficiency();
     const auto ratedWatts = static_cast<double>(efficiency.profile().ratedWatts);
     view_.dashboard()->setRatedWatts(ratedWatts);
+    showSupply();
     view_.dashboard()->setCurve(efficiency.curve(), ratedWatts,
                                 efficiency.bandKey() == QLatin1String("AC230"));
 }

@@ -22,16 +22,20 @@ class ViewFeed : public QObject {
 
 public:
     ViewFeed(Supply &supply, Alarms &alarms, const FanControl &fan, const power::DayProfile &day,
-             Settings &settings, ui::MainView &view, power::RandomSource random, QObject *parent = nullptr);
+             Settings &settings, ui::MainView &view, bool demo, power::RandomSource random,
+             QObject *parent = nullptr);
 
     /// Once a second: supervises the latest reading, when there is one, and shows it as it is supervised.
     void takeReading(const QDateTime &now);
+    /// Shows which alarms warn.
+    void showWarnings();
     /// After the minute clock has gone on.
     void showDay(const QDateTime &now);
 
 private:
     void showReading(const QDateTime &now);
     void showLinkState();
+    void showSupply();
     void showProfile();
     void showAlarms();
     void connectAlarms();
@@ -42,6 +46,7 @@ private:
     const power::DayProfile &day_;
     Settings &settings_;
     ui::MainView &view_;
+    bool demo_; ///< the supply is a simulated one
     power::RandomSource random_;
 };
 

@@ -6,9 +6,15 @@
 
 namespace zpsg::platform {
 
-/// Brings the entry in line: present and starting `"<executable>" open`, or absent. Does nothing when it is
-/// so already. False (and `error` in plain words) when the system refused. Paths are UTF-8.
-bool setAutostart(bool enabled, const std::string &executable, std::string &error);
+enum class Autostart {
+    Off,
+    Shown,  ///< `"<executable>"`
+    Hidden, ///< `"<executable>" open`
+};
+
+/// Brings the entry in line: present and starting this command, or absent. Does nothing when it is so
+/// already. False (and `error` in plain words) when the system refused. Paths are UTF-8.
+bool setAutostart(Autostart mode, const std::string &executable, std::string &error);
 
 /// Whether the entry is there now, whatever program it names.
 bool autostartEnabled();

@@ -78,6 +78,16 @@ void SocketHelper::newConnection() {
     }
 }
 
+void SocketHelper::setAllowRemote(bool allow) {
+    allowRemote_ = allow;
+    const auto clients = clients_; // one that goes leaves the list
+    for (const auto &client : clients) {
+        if (!allow && client->socket && !isOwnAddress(client->socket->peerAddress())) {
+            client->drop();
+        }
+    }
+}
+
 bool SocketHelper::makeRoom() {
     if (clientCount() < limits_.clients) {
         return true;

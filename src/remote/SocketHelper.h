@@ -43,8 +43,9 @@ public:
 
     /// 0 when it does not listen.
     [[nodiscard]] quint16 port() const { return server_.serverPort(); }
-    /// Whether clients on other machines are let in from now on. They are not unless this is called.
-    void setAllowRemote(bool allow) { allowRemote_ = allow; }
+    /// Whether clients on other machines are let in from now on. They are not unless this is called; those
+    /// that are there have to go when they are not any more.
+    void setAllowRemote(bool allow);
     /// Stands at the end of the greeting when the supply has more than a single-colour ring. Plain text
     /// without the separator '&'.
     void setLightingState(const QString &text) { lightingState_ = text; }

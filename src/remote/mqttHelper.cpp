@@ -87,13 +87,17 @@ void mqttHelper::sentMqttMessage(const QStringList &message) {
 
 void mqttHelper::onConnect() {
     qCDebug(lcRemote) << "mqtt connect";
+    lastError_.clear();
     client_.subscribe(commandTopic());
     sentMqttMessage({kPresence, kOnline});
 }
 
 void mqttHelper::onDisconnect() { qCDebug(lcRemote) << "mqtt disconnect"; }
 
-void mqttHelper::error(const QString &name) { qCDebug(lcRemote).noquote().nospace() << "ERROR:" << name; }
+void mqttHelper::error(const QString &name) {
+    qCDebug(lcRemote).noquote().nospace() << "ERROR:" << name;
+    lastError_ = name;
+}
 
 void mqttHelper::subscribed() { qCDebug(lcRemote) << "subscribed"; }
 

@@ -33,6 +33,8 @@ public:
 
     [[nodiscard]] QString answerTopic() const { return publishPrefix_ + QLatin1Char('!') + machine_; }
     [[nodiscard]] QString commandTopic() const { return subscribePrefix_ + person_; }
+    /// Why there is no connection; empty while there is one, or none was tried.
+    [[nodiscard]] const QString &lastError() const { return lastError_; }
     /// For what else wants to go over the same connection.
     [[nodiscard]] MqttClient &client() { return client_; }
 
@@ -57,6 +59,7 @@ private:
     QString subscribePrefix_;
     QString machine_; // m_id
     QString person_;  // p_id
+    QString lastError_;
     MqttClient client_;
 };
 

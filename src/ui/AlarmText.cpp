@@ -2,6 +2,7 @@
 
 #include "ui/Figures.h"
 #include "ui/RailCard.h"
+#include "ui/Temperature.h"
 
 #include <QLocale>
 
@@ -57,8 +58,8 @@ QString alarmValue(AlarmKind kind, double value) {
     if (const auto rail = railOf(kind)) {
         return formatFigure(value, rail->decimals) + QStringLiteral(" V");
     }
-    return formatFigure(value, 0) +
-           (kind == AlarmKind::Fan ? QStringLiteral(" rpm") : QStringLiteral(" \u00B0C"));
+    return kind == AlarmKind::Fan ? formatFigure(value, 0) + QLatin1Char(' ') + qtTrId("FAN_RPM")
+                                  : degreesText(value);
 }
 
 QString alarmAdvice(AlarmKind kind) {
@@ -68,7 +69,7 @@ QString alarmAdvice(AlarmKind kind) {
                  formatFigure(rail->nominal * (1.0 + kRailWindow), rail->decimals));
     }
     return kind == AlarmKind::Fan ? qtTrId("ALARM_FAN_ADVICE").arg(formatFigure(psu::kFanStandsRpm, 0))
-                                  : qtTrId("ALARM_TEMPERATURE_ADVICE").arg(formatFigure(psu::kHotCelsius, 0));
+                                  : qtTrId("ALARM_TEMPERATURE_ADVICE").arg(degreesText(psu::kHotCelsius));
 }
 
 QString alarmSince(const QDateTime &begin, const QDate &today) {

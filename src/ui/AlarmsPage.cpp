@@ -2,14 +2,14 @@
 
 #include "ui/AlarmLogModel.h"
 #include "ui/AlarmLogTable.h"
-#include "ui/Icons.h"
+#include "ui/Controls.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 #include "ui/WarningCard.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QStackedLayout>
 
@@ -17,9 +17,6 @@ namespace zpsg::ui {
 namespace {
 
 using psu::AlarmGroup;
-
-constexpr int kPageTitlePixels = 18;
-constexpr qreal kEmptySignSide = 34.0;
 
 constexpr std::array kGroups{AlarmGroup::Voltage, AlarmGroup::Fan, AlarmGroup::Temperature};
 static_assert(kGroups.size() == psu::kAlarmGroups);
@@ -45,71 +42,28 @@ QString effectOf(AlarmGroup group) {
     case AlarmGroup::Temperature:
         break;
     }
-    return qtTrId("ALARM_GROUP_TEMPERATURE_HINT");
+    return qtTrId("ALARM_GROUP_TEMPERATURE_HINT").arg(degreesText(psu::kHotCelsius));
 }
-
-/// All is well: a tick in a ring.
-class CalmSign : public QWidget {
-public:
-    using QWidget::QWidget;
-
-    void applyScale(qreal scale) {
-        const int side = qRound(kEmptySignSide * scale);
-        setFixedSize(side, side);
-    }
-
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-        painter.setPen(QPen(style::tone(style::colour::kGood), 1.8 * width() / kEmptySignSide));
-        painter.drawEllipse(ring);
-        const qreal inset = 0.24 * ring.width();
-        paintIcon(painter, Icon::Tick, ring.adjusted(inset, inset, -inset, -inset),
-                  style::tone(style::colour::kGood));
-    }
-};
 
 } // namespace
 
-class AlarmsPage::LogCard : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override {
-        QPainter painter(this);
-        style::paintCard(painter, *this);
-    }
-};
-
 AlarmsPage::AlarmsPage(QWidget *parent)
-    : QWidget(parent), title_(new QLabel(this)), rule_(new QLabel(this)), model_(new AlarmLogModel(this)) {
+    : QWidget(parent), head_(new PageHead(this)), model_(new AlarmLogModel(this)) {
     for (const AlarmGroup group : kGroups) {
         auto *card = new WarningCard(this);
         warnings_.at(static_cast<std::size_t>(group)) = card;
         connect(card, &WarningCard::thrown, this, [this, group](bool on) { emit warningToggled(group, on); });
     }
-    card_ = new LogCard(this);
+    card_ = new Card(this);
     logTitle_ = new QLabel(card_);
     clear_ = new QPushButton(card_);
     table_ = new AlarmLogTable(model_, card_);
-    empty_ = new QWidget(card_);
-    emptySign_ = new CalmSign(empty_);
-    emptyTitle_ = new QLabel(empty_);
-    emptyText_ = new QLabel(empty_);
+    empty_ = new EmptyState(Icon::Calm, style::colour::kGood, card_);
 
     clear_->setObjectName(QStringLiteral("btnClearLog"));
     clear_->setCursor(Qt::PointingHandCursor);
     connect(clear_, &QPushButton::clicked, this, &AlarmsPage::clearRequested);
-    rule_->setProperty("tone", QStringLiteral("secondary"));
-    rule_->setWordWrap(true);
     logTitle_->setProperty("tone", QStringLiteral("secondary"));
-    emptyText_->setProperty("tone", QStringLiteral("secondary"));
-    emptyText_->setWordWrap(true);
-    emptyText_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    emptyTitle_->setAlignment(Qt::AlignHCenter);
     clock_.setInterval(1000);
     connect(&clock_, &QTimer::timeout, this, &AlarmsPage::tick);
     layOut();
@@ -118,21 +72,10 @@ AlarmsPage::AlarmsPage(QWidget *parent)
 }
 
 void AlarmsPage::layOut() {
-    auto *head = new QVBoxLayout;
-    head->setSpacing(style::space::kXs);
-    head->addWidget(title_);
-    head->addWidget(rule_);
     cards_ = new QHBoxLayout;
     for (WarningCard *card : warnings_) {
         cards_->addWidget(card, 1);
     }
-
-    auto *emptyLayout = new QVBoxLayout(empty_);
-    emptyLayout->addStretch(2);
-    emptyLayout->addWidget(emptySign_, 0, Qt::AlignHCenter);
-    emptyLayout->addWidget(emptyTitle_);
-    emptyLayout->addWidget(emptyText_);
-    emptyLayout->addStretch(3);
 
     auto *caption = new QHBoxLayout;
     caption->addWidget(logTitle_, 1);
@@ -145,7 +88,7 @@ void AlarmsPage::layOut() {
     cardLayout->addLayout(body_, 1);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(head);
+    layout->addWidget(head_);
     layout->addLayout(cards_);
     layout->addWidget(card_, 1);
 }
@@ -159,14 +102,10 @@ void AlarmsPage::applyScale() {
     cards_->setSpacing(gap);
     card_->layout()->setContentsMargins(gap, gap, gap, gap);
     card_->layout()->setSpacing(qRound(style::space::kS * scale));
-    empty_->layout()->setSpacing(qRound(style::space::kS * scale));
-    title_->setFont(style::font(kPageTitlePixels * scale, QFont::DemiBold));
-    rule_->setFont(style::font(style::type::kBody * scale));
+    empty_->applyScale(scale);
+    head_->applyScale(scale);
     logTitle_->setFont(style::font(style::type::kBody * scale, QFont::Medium));
     clear_->setFont(style::font(style::type::kBody * scale, QFont::Medium));
-    emptyTitle_->setFont(style::font(style::type::kTitle * scale, QFont::DemiBold));
-    emptyText_->setFont(style::font(style::type::kBody * scale));
-    static_cast<CalmSign *>(emptySign_)->applyScale(scale);
     for (WarningCard *card : warnings_) {
         card->applyScale(scale);
     }
@@ -174,12 +113,10 @@ void AlarmsPage::applyScale() {
 }
 
 void AlarmsPage::retranslate() {
-    title_->setText(qtTrId("ALARM_PAGE_TITLE"));
-    rule_->setText(qtTrId("ALARM_PAGE_RULE"));
+    head_->setTexts(qtTrId("ALARM_PAGE_TITLE"), qtTrId("ALARM_PAGE_RULE"));
     clear_->setText(qtTrId("ALARM_CLEAR_LOG"));
     clear_->setToolTip(qtTrId("ALARM_CLEAR_LOG_HINT"));
-    emptyTitle_->setText(qtTrId("ALARM_LOG_EMPTY"));
-    emptyText_->setText(qtTrId("ALARM_LOG_EMPTY_HINT"));
+    empty_->setTexts(qtTrId("ALARM_LOG_EMPTY"), qtTrId("ALARM_LOG_EMPTY_HINT"));
     table_->setAccessibleName(qtTrId("ALARM_LOG"));
     for (const AlarmGroup group : kGroups) {
         warnings_.at(static_cast<std::size_t>(group))->setTexts(nameOf(group), effectOf(group));
@@ -196,7 +133,7 @@ void AlarmsPage::refresh() {
     const int count = model_->rowCount();
     logTitle_->setText(count == 0 ? qtTrId("ALARM_LOG")
                                   : qtTrId("ALARM_LOG_COUNT").arg(QLocale().toString(count)));
-    body_->setCurrentWidget(count == 0 ? empty_ : table_);
+    body_->setCurrentWidget(count == 0 ? static_cast<QWidget *>(empty_) : table_);
     clear_->setEnabled(model_->anyEnded());
     if (isVisible() && model_->anyHolds()) {
         clock_.start();

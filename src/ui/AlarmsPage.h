@@ -18,6 +18,9 @@ namespace zpsg::ui {
 
 class AlarmLogModel;
 class AlarmLogTable;
+class Card;
+class EmptyState;
+class PageHead;
 class WarningCard;
 
 class AlarmsPage : public QWidget {
@@ -45,27 +48,21 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    class LogCard;
-
     void layOut();
     void retranslate();
     void refresh();
     void applyScale();
     void tick();
 
-    QLabel *title_;
-    QLabel *rule_; ///< when a condition becomes an alarm
+    PageHead *head_; ///< says when a condition becomes an alarm
     std::array<WarningCard *, psu::kAlarmGroups> warnings_{};
     QHBoxLayout *cards_;
-    LogCard *card_;
+    Card *card_;
     QLabel *logTitle_;
     QPushButton *clear_;
     AlarmLogModel *model_;
     AlarmLogTable *table_;
-    QWidget *empty_;
-    QWidget *emptySign_;
-    QLabel *emptyTitle_;
-    QLabel *emptyText_;
+    EmptyState *empty_;
     QStackedLayout *body_; ///< the table, or what is said in its place
     QTimer clock_;         ///< runs while an alarm that holds can be seen lasting
 };

@@ -77,10 +77,17 @@ private:
     void moveArcTo(double share);
     void refresh();
     void paintBackground(QPainter &painter) const;
-    void paintDivisions(QPainter &painter) const;
+    /// Those at the arc's ends only where they leave room for the note.
+    void paintDivisions(QPainter &painter, const QRectF &note) const;
     void paintTicks(QPainter &painter) const;
     void paintArc(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;
+    void paintCaption(QPainter &painter) const;
+    void paintFigure(QPainter &painter) const;
+    /// Middle of the labels' line below the arc's ends.
+    [[nodiscard]] qreal endLabelMiddle() const;
+    /// Where it stands; empty without one.
+    QRectF paintNote(QPainter &painter) const;
 
     Prominence prominence_;
     QString caption_;

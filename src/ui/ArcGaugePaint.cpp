@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace zpsg::ui {
 namespace {
@@ -18,6 +20,10 @@ constexpr double kStartDegrees = 225.0; ///< counter-clockwise from three o'cloc
 constexpr double kSpanDegrees = 270.0;
 /// From the ring's top to the lower edge of what stands in its opening, in radii.
 constexpr double kReach = 1.88;
+/// Between the note and the labels at the arc's ends, pixels.
+constexpr qreal kApart = 3.0;
+/// Smaller than this the note does not stand in the arc's opening, pixels.
+constexpr int kLeastNote = 10;
 
 int painterAngle(double degrees) { return qRound(degrees * 16.0); }
 
@@ -71,12 +77,6 @@ void ArcGauge::paintEvent(QPaintEvent * /*event*/) {
 void ArcGauge::paintBackground(QPainter &painter) const {
     style::paintCard(painter, *this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const style::CardLayout card(*this);
-    painter.setFont(
-        fittingFont(style::font(card.captionPixels, QFont::Medium), caption_, card.captionLine.width()));
-    painter.setPen(style::tone(isEnabled() ? colour::kTextSecondary : colour::kStale));
-    painter.drawText(card.captionLine, Qt::AlignLeft | Qt::AlignVCenter, caption_);
-
     painter.setPen(ringPen(style::tone(colour::kTrack), face_.stroke));
     painter.drawArc(face_.ring(), painterAngle(kStartDegrees), painterAngle(-kSpanDegrees));
     if (cautionFrom_ && *cautionFrom_ < scale_.to) {
@@ -88,18 +88,18 @@ void ArcGauge::paintBackground(QPainter &painter) const {
                         painterAngle(kStartDegrees - from * kSpanDegrees),
                         painterAngle(-(1.0 - from) * kSpanDegrees));
     }
-    paintDivisions(painter);
+    if (prominence_ == Prominence::Hero) {
+        paintTicks(painter);
+    }
 }
 
-void ArcGauge::paintDivisions(QPainter &painter) const {
+void ArcGauge::paintDivisions(QPainter &painter, const QRectF &note) const {
     const bool hero = prominence_ == Prominence::Hero;
     const qreal pixels = std::max<qreal>(hero ? 11.0 : 10.0, (hero ? 11.0 : 10.0) * face_.enlargement);
     const FigureFont labels(style::font(pixels));
     const int marks = hero ? scale_.divisions : 1;
-    painter.setPen(style::tone(colour::kTextTertiary));
-    if (hero) {
-        paintTicks(painter);
-    }
+    std::vector<std::pair<QPointF, QString>> places; // the base line's middle
+    bool room = true;
     for (int i = 0; i <= marks; ++i) {
         const double part = static_cast<double>(i) / marks;
         const QString text = formatFigure(std::lerp(scale_.from, scale_.to, part), 0);
@@ -110,11 +110,23 @@ void ArcGauge::paintDivisions(QPainter &painter) const {
             at += QPointF(towards.x() * half, towards.y() * labels.digitHeight() / 2.0);
         } else {
             // Below the arc's ends.
-            at = face_.centre + towards * face_.radius +
-                 QPointF(0.0, face_.stroke * 0.5 + 7.0 * face_.enlargement);
+            at = QPointF(face_.centre.x() + towards.x() * face_.radius, endLabelMiddle());
         }
-        labels.drawCentred(painter, at + QPointF(0.0, labels.digitHeight() / 2.0), text);
+        at.ry() += labels.digitHeight() / 2.0;
+        const QRectF label(at.x() - half, at.y() - labels.digitHeight(), 2.0 * half, labels.digitHeight());
+        room = room && !label.adjusted(-kApart, -kApart, kApart, kApart).intersects(note);
+        places.emplace_back(at, text);
     }
+    painter.setPen(style::tone(colour::kTextTertiary));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        if (room || (i > 0 && i + 1 < places.size())) {
+            labels.drawCentred(painter, places[i].first, places[i].second);
+        }
+    }
+}
+
+qreal ArcGauge::endLabelMiddle() const {
+    return face_.centre.y() + direction(0.0).y() * face_.radius + face_.stroke * 0.5 + 7.0 * face_.enlargement;
 }
 
 void ArcGauge::paintTicks(QPainter &painter) const {
@@ -160,6 +172,20 @@ void ArcGauge::paintArc(QPainter &painter) const {
 }
 
 void ArcGauge::paintTexts(QPainter &painter) const {
+    paintCaption(painter);
+    paintFigure(painter);
+    paintDivisions(painter, paintNote(painter));
+}
+
+void ArcGauge::paintCaption(QPainter &painter) const {
+    const style::CardLayout card(*this);
+    painter.setFont(
+        fittingFont(style::font(card.captionPixels, QFont::Medium), caption_, card.captionLine.width()));
+    painter.setPen(style::tone(isEnabled() ? colour::kTextSecondary : colour::kStale));
+    painter.drawText(card.captionLine, Qt::AlignLeft | Qt::AlignVCenter, caption_);
+}
+
+void ArcGauge::paintFigure(QPainter &painter) const {
     const bool hero = prominence_ == Prominence::Hero;
     const bool current = value_ && !stale_ && isEnabled();
     const qreal inner = face_.radius - face_.stroke / 2.0;
@@ -179,19 +205,37 @@ void ArcGauge::paintTexts(QPainter &painter) const {
     painter.setFont(style::font(unitPixels, QFont::Medium));
     painter.drawText(QRectF(face_.centre.x() - inner, base.y() + inner * 0.08, inner * 2.0, unitPixels * 1.5),
                      Qt::AlignCenter, unit_);
+}
 
+QRectF ArcGauge::paintNote(QPainter &painter) const {
     const QString note = noteText();
     if (note.isEmpty()) {
-        return;
+        return {};
     }
+    const bool hero = prominence_ == Prominence::Hero;
+    const bool current = value_ && !stale_ && isEnabled();
+    const qreal inner = face_.radius - face_.stroke / 2.0;
     const qreal notePixels = std::max<qreal>(style::type::kSmall, inner * (hero ? 0.125 : 0.17));
     const QColor tint = current && cautious() ? style::tone(colour::kCaution)
                                               : style::tone(current ? colour::kText : colour::kStale, 0.9);
+    const QFont usual = style::font(notePixels, QFont::Medium);
+    QFont font = fittingFont(usual, note, inner * 1.36);
+    QRectF line(face_.centre.x() - inner, face_.centre.y() + inner * (hero ? 0.62 : 0.56), inner * 2.0,
+                notePixels * 1.5);
+    if (!hero && font.pixelSize() < std::min(kLeastNote, usual.pixelSize())) {
+        // Too long for the opening: below it, in the place of the labels at the arc's ends.
+        const style::CardLayout card(*this);
+        font = fittingFont(usual, note, card.captionLine.width());
+        const qreal middle = endLabelMiddle();
+        line = QRectF(card.captionLine.left(), middle - notePixels * 0.75, card.captionLine.width(),
+                      notePixels * 1.5);
+    }
     painter.setPen(tint);
-    painter.setFont(fittingFont(style::font(notePixels, QFont::Medium), note, inner * 1.36));
-    painter.drawText(QRectF(face_.centre.x() - inner, face_.centre.y() + inner * (hero ? 0.62 : 0.56),
-                            inner * 2.0, notePixels * 1.5),
-                     Qt::AlignCenter, note);
+    painter.setFont(font);
+    painter.drawText(line, Qt::AlignCenter, note);
+    QRectF letters(QPointF(), QSizeF(QFontMetricsF(font).horizontalAdvance(note), font.pixelSize()));
+    letters.moveCenter(line.center());
+    return letters;
 }
 
 } // namespace zpsg::ui

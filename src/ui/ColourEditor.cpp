@@ -2,12 +2,13 @@
 
 #include "ui/ColourSwatches.h"
 #include "ui/ColourWheel.h"
+#include "ui/Controls.h"
 #include "ui/HexEntry.h"
-#include "ui/HistoryControls.h"
 #include "ui/LevelSlider.h"
 #include "ui/Style.h"
 
 #include <QHBoxLayout>
+#include <QLocale>
 
 namespace zpsg::ui {
 namespace {

@@ -11,6 +11,10 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QResizeEvent>
+
+#include <algorithm>
+#include <array>
 
 namespace zpsg::ui {
 namespace {
@@ -38,20 +42,6 @@ Look lookOf(LinkState state) {
     return {Icon::Unplugged, colour::kTextSecondary};
 }
 
-QString headlineOf(LinkState state) {
-    switch (state) {
-    case LinkState::Live:
-        return qtTrId("MAIN_STR_LINK_LIVE");
-    case LinkState::NoPermission:
-        return qtTrId("MAIN_STR_LINK_NO_PERMISSION");
-    case LinkState::Silent:
-        return qtTrId("MAIN_STR_LINK_SILENT");
-    case LinkState::NoDevice:
-        break;
-    }
-    return qtTrId("MAIN_STR_LINK_NO_DEVICE");
-}
-
 QString detailOf(LinkState state, bool withRemedy) {
     switch (state) {
     case LinkState::Live:
@@ -67,19 +57,40 @@ QString detailOf(LinkState state, bool withRemedy) {
     return qtTrId("MAIN_STR_LINK_NO_DEVICE_HINT");
 }
 
+/// No supply can be reached, so that a simulated one is worth an offer.
+bool isAlone(LinkState state) { return state == LinkState::NoDevice || state == LinkState::NoPermission; }
+
 constexpr int kConfirmMs = 2000;
+
+// In a window of the usual size, device-independent pixels.
+constexpr int kHeadPixels = 18; ///< of the model's name, as the titles of the other pages
+constexpr qreal kSignSide = 26.0;
+constexpr qreal kDotSide = 14.0;
+constexpr qreal kSlimHeight = 22.0; ///< of the button that ends the demo, as of the mark beside it
 
 } // namespace
 
-/// The state's sign: small while all is well.
+QString linkHeadline(LinkState state) {
+    switch (state) {
+    case LinkState::Live:
+        return qtTrId("MAIN_STR_LINK_LIVE");
+    case LinkState::NoPermission:
+        return qtTrId("MAIN_STR_LINK_NO_PERMISSION");
+    case LinkState::Silent:
+        return qtTrId("MAIN_STR_LINK_SILENT");
+    case LinkState::NoDevice:
+        break;
+    }
+    return qtTrId("MAIN_STR_LINK_NO_DEVICE");
+}
+
 class ConnectionBanner::Sign : public QWidget {
 public:
     explicit Sign(QWidget *parent) : QWidget(parent) { setAccessibleName(QString()); }
 
-    void show(const Look &look, qreal scale) {
+    void show(const Look &look, qreal side) {
         look_ = look;
-        const int side = qRound((look.icon == Icon::Dot ? 14 : 26) * scale);
-        setFixedSize(side, side);
+        setFixedSize(qRound(side), qRound(side));
         QWidget::update();
     }
 
@@ -99,6 +110,8 @@ ConnectionBanner::ConnectionBanner(QWidget *parent)
     , headline_(new QLabel(this))
     , detail_(new QLabel(this))
     , demo_(new QLabel(this))
+    , look_(new QPushButton(this))
+    , leave_(new QPushButton(this))
     , command_(new QWidget(this))
     , remedy_(new QLabel(command_))
     , copy_(new QPushButton(command_)) {
@@ -106,20 +119,26 @@ ConnectionBanner::ConnectionBanner(QWidget *parent)
     demo_->setObjectName(QStringLiteral("lblDemo"));
     remedy_->setObjectName(QStringLiteral("lblRemedy"));
     copy_->setObjectName(QStringLiteral("btnCopyRemedy"));
+    look_->setObjectName(QStringLiteral("btnDemo"));
+    leave_->setObjectName(QStringLiteral("btnLeaveDemo"));
     headline_->setTextFormat(Qt::PlainText);
     detail_->setProperty("tone", QStringLiteral("secondary"));
-    detail_->setWordWrap(true);
     demo_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     remedy_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     remedy_->setTextFormat(Qt::PlainText);
     remedy_->setWordWrap(true);
-    copy_->setCursor(Qt::PointingHandCursor);
+    leave_->setProperty("slim", true);
+    for (QPushButton *button : {copy_, look_, leave_}) {
+        button->setCursor(Qt::PointingHandCursor);
+    }
     copied_.setSingleShot(true);
     copied_.setInterval(kConfirmMs);
     connect(copy_, &QPushButton::clicked, this, &ConnectionBanner::copyRemedy);
+    connect(look_, &QPushButton::clicked, this, &ConnectionBanner::demoRequested);
+    connect(leave_, &QPushButton::clicked, this, &ConnectionBanner::demoEndRequested);
     connect(&copied_, &QTimer::timeout, this, &ConnectionBanner::update);
     layOut();
-    setDemo(false);
+    update();
 }
 
 void ConnectionBanner::layOut() {
@@ -130,17 +149,25 @@ void ConnectionBanner::layOut() {
     command->addWidget(remedy_, 1);
     command->addWidget(copy_, 0, Qt::AlignTop);
 
-    auto *words = new QVBoxLayout;
-    words->setSpacing(style::space::kXs);
-    words->addWidget(headline_);
-    words->addWidget(detail_);
-    words->addWidget(command_);
+    words_ = new QBoxLayout(QBoxLayout::TopToBottom);
+    words_->addWidget(headline_);
+    words_->addWidget(detail_, 1);
 
-    auto *row = new QHBoxLayout(this);
-    row->setSpacing(style::space::kM);
-    row->addWidget(sign_, 0, Qt::AlignVCenter);
-    row->addLayout(words, 1);
-    row->addWidget(demo_, 0, Qt::AlignVCenter);
+    row_ = new QHBoxLayout;
+    row_->addWidget(sign_, 0, Qt::AlignVCenter);
+    auto *centred = new QVBoxLayout;
+    centred->addStretch(1);
+    centred->addLayout(words_);
+    centred->addStretch(1);
+    row_->addLayout(centred, 1);
+    row_->addWidget(demo_, 0, Qt::AlignVCenter);
+    row_->addWidget(look_, 0, Qt::AlignVCenter);
+    row_->addWidget(leave_, 0, Qt::AlignVCenter);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(0);
+    layout->addLayout(row_, 1);
+    layout->addWidget(command_);
 }
 
 void ConnectionBanner::showState(LinkState state, const QString &modelText) {
@@ -153,7 +180,7 @@ void ConnectionBanner::showState(LinkState state, const QString &modelText) {
 }
 
 void ConnectionBanner::setDemo(bool demo) {
-    demo_->setVisible(demo);
+    isDemo_ = demo;
     update();
 }
 
@@ -165,7 +192,7 @@ void ConnectionBanner::setRemedy(const QString &command) {
 QString ConnectionBanner::spokenText() const {
     QStringList parts{headline_->text()};
     for (const QLabel *label : {detail_, remedy_, demo_}) {
-        if (label->isVisibleTo(this)) {
+        if (label->isVisibleTo(this) && !label->text().isEmpty()) {
             parts << label->text();
         }
     }
@@ -174,43 +201,103 @@ QString ConnectionBanner::spokenText() const {
 
 void ConnectionBanner::update() {
     const bool quiet = state_ == LinkState::Live;
-    const bool withRemedy = state_ == LinkState::NoPermission && !remedyCommand_.isEmpty();
+    showWords();
     applyScale();
-    sign_->show(lookOf(state_), scale_);
-    QString headline = headlineOf(state_);
-    if (quiet && !modelText_.isEmpty()) {
-        headline += QStringLiteral("  \u00B7  ") + modelText_;
-    }
-    headline_->setText(headline);
-    detail_->setText(detailOf(state_, withRemedy));
-    detail_->setVisible(!quiet);
-    demo_->setText(qtTrId("MAIN_STR_DEMO"));
-    remedy_->setText(remedyCommand_);
-    command_->setVisible(withRemedy);
-    copy_->setText(copied_.isActive() ? qtTrId("MAIN_STR_COPIED") : qtTrId("MAIN_STR_COPY"));
-    const int side = qRound((quiet ? style::space::kXs : style::space::kL) * scale_);
-    const int edge = qRound((quiet ? 0 : style::space::kM) * scale_);
+    command_->setVisible(state_ == LinkState::NoPermission && !remedyCommand_.isEmpty());
+    demo_->setVisible(isDemo_);
+    leave_->setVisible(isDemo_);
+    look_->setVisible(!isDemo_ && isAlone(state_));
+    const int side = quiet ? 0 : qRound(style::space::kL * scale_);
+    const int edge = quiet ? 0 : qRound(style::space::kS * scale_);
     layout()->setContentsMargins(side, edge, side, edge);
     setAccessibleName(spokenText());
+    reserve();
     QWidget::update();
+}
+
+void ConnectionBanner::showWords() {
+    const bool quiet = state_ == LinkState::Live;
+    const bool named = quiet && !modelText_.isEmpty();
+    const bool withRemedy = state_ == LinkState::NoPermission && !remedyCommand_.isEmpty();
+    headline_->setText(named ? modelText_ : linkHeadline(state_));
+    detail_->setText(named ? linkHeadline(state_) : detailOf(state_, withRemedy));
+    demo_->setText(qtTrId("MAIN_STR_DEMO"));
+    look_->setText(qtTrId("MAIN_STR_DEMO_LOOK"));
+    leave_->setText(qtTrId("MAIN_STR_DEMO_LEAVE"));
+    remedy_->setText(remedyCommand_);
+    copy_->setText(copied_.isActive() ? qtTrId("MAIN_STR_COPIED") : qtTrId("MAIN_STR_COPY"));
 }
 
 void ConnectionBanner::applyScale() {
     scale_ = style::windowScale(*this);
     const bool quiet = state_ == LinkState::Live;
-    headline_->setFont(style::font((quiet ? style::type::kBody : style::type::kTitle) * scale_,
-                                   quiet ? QFont::Medium : QFont::DemiBold));
+    headline_->setFont(style::font((quiet ? kHeadPixels : style::type::kTitle) * scale_, QFont::DemiBold));
     detail_->setFont(style::font(style::type::kBody * scale_));
     demo_->setFont(style::font(style::type::kLabel * scale_, QFont::DemiBold));
     remedy_->setFont(style::monospace(style::type::kLabel * scale_));
-    copy_->setFont(style::font(style::type::kBody * scale_, QFont::Medium));
-    layout()->setSpacing(qRound(style::space::kM * scale_));
+    for (QPushButton *button : {copy_, look_, leave_}) {
+        button->setFont(style::font(style::type::kBody * scale_, QFont::Medium));
+    }
+    sign_->show(lookOf(state_), (quiet ? kDotSide : kSignSide) * scale_);
+    leave_->setFixedHeight(qRound(kSlimHeight * scale_));
+    row_->setSpacing(qRound((quiet ? style::space::kS : style::space::kM) * scale_));
+    // One line while all is well: there may be alarms below that need the room.
+    words_->setDirection(quiet ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    words_->setSpacing(qRound(quiet ? style::space::kM * scale_ : style::space::kXs / 2.0 * scale_));
+    detail_->setWordWrap(!quiet);
+}
+
+void ConnectionBanner::reserve() {
+    int height = 0;
+    for (const LinkState state :
+         {LinkState::Live, LinkState::NoDevice, LinkState::NoPermission, LinkState::Silent}) {
+        height = std::max(height, heightOf(state));
+    }
+    if (height != reserved_) {
+        reserved_ = height;
+        updateGeometry();
+    }
+    setMinimumHeight(state_ == LinkState::Live ? 0 : reserved_);
+}
+
+QSize ConnectionBanner::sizeHint() const { return QWidget::sizeHint().expandedTo({0, reserved_}); }
+
+/// What a state needs at the present width, without a remedy.
+int ConnectionBanner::heightOf(LinkState state) const {
+    const int gap = qRound(style::space::kM * scale_);
+    QSize actions(0, 0);
+    if (isDemo_) {
+        const QSize mark = demo_->sizeHint();
+        const QSize leave = leave_->sizeHint();
+        actions = {gap + mark.width() + gap + leave.width(),
+                   std::max(mark.height(), leave_->minimumHeight())};
+    } else if (isAlone(state)) {
+        const QSize look = look_->sizeHint();
+        actions = {gap + look.width(), look.height()};
+    }
+    const auto lineOf = [](qreal pixels) {
+        return QFontMetrics(style::font(pixels, QFont::DemiBold)).height();
+    };
+    if (state == LinkState::Live) {
+        return std::max(lineOf(kHeadPixels * scale_), actions.height());
+    }
+    const int sign = qRound(kSignSide * scale_);
+    const int edges = 2 * qRound(style::space::kS * scale_);
+    QLabel detail(detailOf(state, state == LinkState::NoPermission && !remedyCommand_.isEmpty()));
+    detail.setWordWrap(true);
+    detail.setFont(detail_->font());
+    const int room = width() - 2 * qRound(style::space::kL * scale_) - sign - gap - actions.width();
+    const int words = lineOf(style::type::kTitle * scale_) + qRound(style::space::kXs / 2.0 * scale_) +
+                      detail.heightForWidth(std::max(1, room));
+    return edges + std::max({words, actions.height(), sign});
 }
 
 void ConnectionBanner::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (scale_ != style::windowScale(*this)) {
         update();
+    } else if (event->size().width() != event->oldSize().width()) {
+        reserve();
     }
 }
 
@@ -224,6 +311,8 @@ void ConnectionBanner::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         update();
+    } else if (event->type() == QEvent::StyleChange) {
+        reserve(); // a button's room is the sheet's matter
     }
 }
 

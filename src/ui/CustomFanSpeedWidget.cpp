@@ -1,8 +1,8 @@
 #include "ui/CustomFanSpeedWidget.h"
 
 #include "fan/FanMode.h"
+#include "ui/Controls.h"
 #include "ui/FanOverlay.h"
-#include "ui/HistoryControls.h"
 #include "ui/LevelSlider.h"
 #include "ui/Style.h"
 #include "ui/TitleButton.h"
@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -67,7 +68,6 @@ CustomFanSpeedWidget::CustomFanSpeedWidget(float fullRpm, QWidget *parent)
     slider_->setPageStep(5);
     percentSign_->setText(QStringLiteral("%"));
     editUnit_->setText(QStringLiteral("%"));
-    speedUnit_->setText(QStringLiteral("RPM"));
     least_->setText(percentText(fan::kLeastPercent));
     most_->setText(percentText(fan::kMostPercent));
     layOut();
@@ -120,6 +120,7 @@ void CustomFanSpeedWidget::retranslate() {
     slider_->setAccessibleName(qtTrId("FAN_TARGET_SPEED"));
     edit_->setAccessibleName(qtTrId("FAN_TARGET_PERCENT"));
     edit_->setToolTip(qtTrId("FAN_TARGET_PERCENT"));
+    speedUnit_->setText(qtTrId("FAN_TARGET_RPM"));
     confirm_->setText(qtTrId("FAN_TARGET_SET"));
 }
 

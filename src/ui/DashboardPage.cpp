@@ -1,5 +1,6 @@
 #include "ui/DashboardPage.h"
 
+#include "power/MainsPower.h"
 #include "psu/AlarmEntry.h"
 #include "psu/SupplyMonitor.h"
 #include "psu/TelemetryRecord.h"
@@ -8,10 +9,10 @@
 #include "ui/DayView.h"
 #include "ui/EfficiencyView.h"
 #include "ui/Figures.h"
-#include "ui/MainsPower.h"
 #include "ui/PowerTrace.h"
 #include "ui/RailCard.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 #include "ui/TrendPanel.h"
 
 #include <QEvent>
@@ -44,7 +45,8 @@ constexpr double kFanFullRpm = 2250.0;
 /// Wide-range mains inputs take 90 to 264 volts.
 constexpr ArcGauge::Scale kInputScale{80.0, 270.0, 4, 1};
 constexpr ArcGauge::Scale kEfficiencyScale{0.0, 100.0, 4, 1};
-constexpr ArcGauge::Scale kTemperatureScale{0.0, 80.0, 4, 0};
+constexpr double kCoolestCelsius = 0.0;
+constexpr double kHottestCelsius = 80.0;
 constexpr ArcGauge::Scale kFanScale{0.0, 2500.0, 5, 0};
 
 /// The value when a supply has given it; a record holds plausible figures before that.
@@ -80,13 +82,12 @@ DashboardPage::DashboardPage(QWidget *parent)
     input_->setObjectName(QStringLiteral("gaugeInput"));
     output_->setUnit(QStringLiteral("W"));
     efficiency_->setUnit(QStringLiteral("%"));
-    temperature_->setUnit(QStringLiteral("\u00B0C"));
-    fan_->setUnit(QStringLiteral("rpm"));
     input_->setUnit(QStringLiteral("V AC"));
     efficiency_->setScale(kEfficiencyScale);
-    temperature_->setScale(kTemperatureScale);
     fan_->setScale(kFanScale);
     input_->setScale(kInputScale);
+    connect(banner_, &ConnectionBanner::demoRequested, this, &DashboardPage::demoRequested);
+    connect(banner_, &ConnectionBanner::demoEndRequested, this, &DashboardPage::demoEndRequested);
     scaleOutput();
     layOut();
     retranslate();
@@ -141,8 +142,12 @@ void DashboardPage::retranslate() {
     efficiency_->setCaption(qtTrId("MAIN_STR_EFFICIENCY"));
     efficiency_->setToolTip(qtTrId("MAIN_STR_INPUT_POWER_EXPLAINED"));
     temperature_->setCaption(qtTrId("MAIN_STR_TEMPERATURE"));
-    temperature_->setCaution(psu::kHotCelsius, qtTrId("MAIN_STR_HOT"));
+    temperature_->setUnit(degreeUnit());
+    temperature_->setScale({degrees(kCoolestCelsius), degrees(kHottestCelsius), 4, 0});
+    temperature_->setCaution(degrees(psu::kHotCelsius), qtTrId("MAIN_STR_HOT"));
+    showTemperature();
     fan_->setCaption(qtTrId("MAIN_STR_FAN"));
+    fan_->setUnit(qtTrId("FAN_RPM"));
     input_->setCaption(qtTrId("MAIN_STR_INPUT_VOLTAGE"));
 }
 
@@ -180,7 +185,8 @@ void DashboardPage::showReading(const psu::TelemetryRecord &record, const Shown 
         noteLoad(*watts);
     }
     showEfficiency(watts, shown.efficiency);
-    showEntry(*temperature_, record, QStringLiteral("Temp"));
+    celsius_ = measured(record, QStringLiteral("Temp"));
+    showTemperature();
     showFan(record);
     showEntry(*input_, record, QStringLiteral("VIN"));
     for (std::size_t i = 0; i < rails_.size(); ++i) {
@@ -190,6 +196,13 @@ void DashboardPage::showReading(const psu::TelemetryRecord &record, const Shown 
         }
     }
     trends_->power()->append(msSinceEpoch, watts);
+}
+
+void DashboardPage::showTemperature() {
+    if (celsius_) {
+        temperature_->showValue(degrees(*celsius_));
+        temperature_->setStale(state_ == LinkState::Silent);
+    }
 }
 
 void DashboardPage::showFan(const psu::TelemetryRecord &record) {
@@ -210,7 +223,7 @@ void DashboardPage::showEfficiency(std::optional<double> watts, std::optional<do
     } else {
         efficiency_->clear();
     }
-    const auto mains = mainsPower(watts, percent);
+    const auto mains = power::mainsPower(watts, percent);
     efficiency_->setNote(mains ? qtTrId("MAIN_STR_INPUT_POWER").arg(formatFigure(mains->inputWatts, 0))
                                : QString());
     trends_->efficiency()->showPoint(watts, percent);
@@ -250,6 +263,7 @@ void DashboardPage::clearValues() {
         gauge->clear();
         gauge->setNote({});
     }
+    celsius_.reset();
     for (RailCard *rail : rails_) {
         rail->clear();
     }

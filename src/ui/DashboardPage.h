@@ -58,6 +58,11 @@ public:
     /// Disables everything but the banners.
     void setContentEnabled(bool enabled);
 
+signals:
+    /// See ConnectionBanner.
+    void demoRequested();
+    void demoEndRequested();
+
 protected:
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -69,11 +74,13 @@ private:
     void setStale(bool stale);
     void clearValues();
     void noteLoad(double watts);
+    void showTemperature();
     void showFan(const psu::TelemetryRecord &record);
     void showEfficiency(std::optional<double> watts, std::optional<double> percent);
 
     psu::LinkState state_{}; ///< no device until told otherwise
     double ratedWatts_ = 0.0;
+    std::optional<double> celsius_; ///< as shown
     ConnectionBanner *banner_;
     QWidget *content_;
     std::array<QBoxLayout *, 4> spaced_{}; ///< those with a gap between cards

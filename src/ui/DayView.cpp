@@ -106,7 +106,7 @@ std::optional<double> DayView::readoutValue() const { return average_; }
 void DayView::replot() {
     showEmptyText(!average_);
     top_ = axisTop(peak_, top_);
-    plot().setTicks(QwtPlot::yLeft, 0.0, top_, quarters(top_));
+    plot().setTicks(QwtPlot::yLeft, 0.0, top_, levels(top_));
     bars_->setWatts(watts_);
     bars_->setNow(now_, qtTrId("MAIN_STR_NOW"));
     bars_->setPointed(pointed_, pointedText());

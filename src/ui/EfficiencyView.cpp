@@ -1,9 +1,9 @@
 #include "ui/EfficiencyView.h"
 
 #include "power/CurveFile.h"
+#include "power/MainsPower.h"
 #include "ui/EfficiencyCurve.h"
 #include "ui/Figures.h"
-#include "ui/MainsPower.h"
 #include "ui/Style.h"
 #include "ui/TrendPlot.h"
 
@@ -107,7 +107,7 @@ void EfficiencyView::updateFigures() {
 }
 
 std::array<QString, 3> EfficiencyView::figureTexts() const {
-    const auto mains = mainsPower(watts_, percent_);
+    const auto mains = power::mainsPower(watts_, percent_);
     return {percent_ ? formatFigure(*percent_, 1) + QStringLiteral("\u00A0%") : QString(kNoValue),
             mains ? wattsLabel(mains->inputWatts) : QString(kNoValue),
             mains ? wattsLabel(mains->heatWatts) : QString(kNoValue)};

@@ -1,15 +1,18 @@
 #include "ui/FanCurveCard.h"
 
 #include "fan/FanGovernor.h"
+#include "psu/AlarmEntry.h"
 #include "ui/FanCurveEditor.h"
 #include "ui/FanNumberEntry.h"
 #include "ui/Icons.h"
 #include "ui/SegmentedControl.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 #include "ui/ToggleSwitch.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStyle>
 
@@ -66,7 +69,7 @@ protected:
 } // namespace
 
 FanCurveCard::FanCurveCard(QWidget *parent)
-    : HistoryCard(parent)
+    : Card(parent)
     , caption_(new QLabel(this))
     , stateText_(new QLabel(this))
     , switch_(new ToggleSwitch(this))
@@ -217,14 +220,15 @@ void FanCurveCard::showText() {
 
 void FanCurveCard::showUnits() {
     const bool byTemperature = editor_->curve().source == fan::CurveSource::Temperature;
-    hysteresis_->setSuffix(byTemperature ? QStringLiteral("\u00A0\u00B0C") : QStringLiteral("\u00A0%"));
+    hysteresis_->setUnit(byTemperature ? degreesApart(1.0) : 1.0,
+                         QChar(QChar::Nbsp) + (byTemperature ? degreeUnit() : QStringLiteral("%")));
     seconds_->setSuffix(QStringLiteral("\u00A0s"));
 }
 
 void FanCurveCard::retranslate() {
     caption_->setText(qtTrId("FAN_CURVE"));
     switch_->setAccessibleName(qtTrId("FAN_CURVE"));
-    switch_->setAccessibleDescription(qtTrId("FAN_CURVE_NOTE"));
+    switch_->setAccessibleDescription(qtTrId("FAN_CURVE_NOTE").arg(degreesText(psu::kHotCelsius)));
     source_->setAccessibleName(qtTrId("FAN_CURVE_SOURCE"));
     source_->setToolTip(qtTrId("FAN_CURVE_SOURCE"));
     source_->setTexts({qtTrId("MAIN_STR_TEMPERATURE"), qtTrId("FAN_CURVE_LOAD")});
@@ -238,7 +242,7 @@ void FanCurveCard::retranslate() {
     hysteresis_->setAccessibleName(hysteresisCaption_->text());
     secondsCaption_->setText(qtTrId("FAN_CURVE_SECONDS"));
     seconds_->setAccessibleName(secondsCaption_->text());
-    note_->setText(qtTrId("FAN_CURVE_NOTE"));
+    note_->setText(qtTrId("FAN_CURVE_NOTE").arg(degreesText(psu::kHotCelsius)));
     showText();
     showUnits();
 }

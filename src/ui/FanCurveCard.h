@@ -2,9 +2,10 @@
 #pragma once
 
 #include "fan/FanCurve.h"
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 
 class QHBoxLayout;
+class QPushButton;
 
 namespace zpsg::ui {
 
@@ -16,7 +17,7 @@ class ToggleSwitch;
 /// What becomes of the curve now.
 enum class CurveState { Off, Driving, TooHot, NoReading, NotConnected };
 
-class FanCurveCard final : public HistoryCard {
+class FanCurveCard final : public Card {
     Q_OBJECT
 
 public:

@@ -5,6 +5,7 @@
 #include "ui/Figures.h"
 #include "ui/HistoryControls.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 #include "ui/TrendPlot.h"
 
 #include <QEvent>
@@ -112,8 +113,8 @@ void FanCurveEditor::removeSelected() {
 
 QString FanCurveEditor::textOf(const fan::CurvePoint &point) const {
     const bool byTemperature = curve_.source == fan::CurveSource::Temperature;
-    return QStringLiteral("%1\u00A0%2  \u2192  %3\u00A0%")
-        .arg(formatFigure(point.at, 0), byTemperature ? QStringLiteral("\u00B0C") : QStringLiteral("%"),
+    return QStringLiteral("%1  \u2192  %2\u00A0%")
+        .arg(byTemperature ? degreesText(point.at) : formatFigure(point.at, 0) + QStringLiteral("\u00A0%"),
              formatFigure(point.percent, 0));
 }
 
@@ -166,9 +167,11 @@ void FanCurveEditor::refresh() {
     }
     const qreal scale = style::windowScale(*this);
     const bool byTemperature = curve_.source == fan::CurveSource::Temperature;
-    const QString unit = byTemperature ? QStringLiteral("\u00A0\u00B0C") : QStringLiteral("\u00A0%");
+    const auto atText = [byTemperature](double at) {
+        return byTemperature ? degreesText(at) : formatFigure(at, 0) + QStringLiteral("\u00A0%");
+    };
     plot_->setScale(scale);
-    plot_->setLabels(QwtPlot::xBottom, [unit](double at) { return formatFigure(at, 0) + unit; });
+    plot_->setLabels(QwtPlot::xBottom, atText);
     plot_->setLabels(QwtPlot::yLeft,
                      [](double percent) { return formatFigure(percent, 0) + QStringLiteral("\u00A0%"); });
     const auto [from, to] = rangeOf(curve_.source);
@@ -190,7 +193,7 @@ void FanCurveEditor::refresh() {
     }
     look.now = byTemperature ? celsius_ : loadPercent_;
     if (look.now) {
-        look.nowTag = QStringLiteral("%1 %2%3").arg(qtTrId("MAIN_STR_NOW"), formatFigure(*look.now, 0), unit);
+        look.nowTag = QStringLiteral("%1 %2").arg(qtTrId("MAIN_STR_NOW"), atText(*look.now));
     }
     look.focused = hasFocus();
     look.driving = driving_;

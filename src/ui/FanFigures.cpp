@@ -2,6 +2,7 @@
 
 #include "ui/Figures.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -55,9 +56,9 @@ QString FanFigures::dutyText() const {
 }
 
 QString FanFigures::readoutText() const {
-    const QString speed = !rpm_ || stands() ? speedText() : speedText() + QStringLiteral(" rpm");
-    const QString celsius =
-        celsius_ ? formatFigure(*celsius_, 0) + QStringLiteral(" \u00B0C") : QString(kNoValue);
+    const QString speed =
+        !rpm_ || stands() ? speedText() : speedText() + QLatin1Char(' ') + qtTrId("FAN_RPM");
+    const QString celsius = celsius_ ? degreesText(*celsius_) : QString(kNoValue);
     return QStringList{speed, dutyText(), celsius}.join(QStringLiteral(", "));
 }
 
@@ -97,11 +98,10 @@ void FanFigures::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF speed(0.0, 0.0, kSpeedWidth * scale, height());
-    paintFigure(painter, speed, qtTrId("FAN_SPEED"), speedText(),
-                stands() ? QString() : QStringLiteral("rpm"));
+    paintFigure(painter, speed, qtTrId("FAN_SPEED"), speedText(), stands() ? QString() : qtTrId("FAN_RPM"));
     const QRectF celsius((kSpeedWidth + kBetween) * scale, 0.0, kCelsiusWidth * scale, height());
     paintFigure(painter, celsius, qtTrId("MAIN_STR_TEMPERATURE"),
-                celsius_ ? formatFigure(*celsius_, 0) : QString(kNoValue), QStringLiteral("\u00B0C"));
+                celsius_ ? formatFigure(degrees(*celsius_), 0) : QString(kNoValue), degreeUnit());
 
     QRectF track(0.0, height() - kBar * scale, speed.width(), kBar * scale);
     painter.setPen(Qt::NoPen);

@@ -47,6 +47,19 @@ void FanNumberEntry::showValue(int value) {
     }
 }
 
+void FanNumberEntry::setUnit(double factor, const QString &suffix) {
+    factor_ = factor;
+    setSuffix(suffix); // also shows the value anew
+}
+
+QString FanNumberEntry::textFromValue(int value) const {
+    return QSpinBox::textFromValue(qRound(factor_ * value));
+}
+
+int FanNumberEntry::valueFromText(const QString &text) const {
+    return qRound(QSpinBox::valueFromText(text) / factor_);
+}
+
 void FanNumberEntry::applyScale(qreal scale) {
     const QString wanted = sheet(scale);
     if (wanted != styleSheet()) {
@@ -54,7 +67,7 @@ void FanNumberEntry::applyScale(qreal scale) {
     }
     setFont(style::font(style::type::kLabel * scale));
     lineEdit()->setFont(font()); // a style sheet keeps the one from the other
-    const qreal words = QFontMetricsF(font()).horizontalAdvance(QString::number(maximum()) + suffix());
+    const qreal words = QFontMetricsF(font()).horizontalAdvance(textFromValue(maximum()) + suffix());
     setFixedSize(qRound(words + (kSteps + 18.0) * scale), qRound(kHeight * scale));
 }
 

@@ -13,6 +13,8 @@ public:
 
     /// Without a signal.
     void showValue(int value);
+    /// Shows the value times `factor`, in whole numbers, with the unit behind it; steps are the value's.
+    void setUnit(double factor, const QString &suffix);
     void applyScale(qreal scale);
 
 signals:
@@ -20,8 +22,13 @@ signals:
     void valueChosen(int value);
 
 protected:
+    [[nodiscard]] QString textFromValue(int value) const override;
+    [[nodiscard]] int valueFromText(const QString &text) const override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    double factor_ = 1.0;
 };
 
 } // namespace zpsg::ui

@@ -14,11 +14,11 @@
 
 #include <QHBoxLayout>
 #include <QHideEvent>
+#include <QPushButton>
 
 namespace zpsg::ui {
 namespace {
 
-constexpr int kPageTitlePixels = 18;
 constexpr int kModePixels = 20;
 constexpr int kPopupVariant = 2;
 
@@ -31,9 +31,8 @@ float sampleOf(const std::optional<double> &value) {
 // Tab goes through the controls in the order in which they are made.
 FanPage::FanPage(QWidget *parent)
     : QWidget(parent)
-    , title_(new QLabel(this))
-    , hint_(new QLabel(this))
-    , stateCard_(new HistoryCard(this))
+    , head_(new PageHead(this))
+    , stateCard_(new Card(this))
     , figures_(new FanFigures(stateCard_))
     , modeCaption_(new QLabel(stateCard_))
     , modeText_(new QLabel(stateCard_))
@@ -46,9 +45,7 @@ FanPage::FanPage(QWidget *parent)
     , small_(new popupWidget(this)) {
     selectors_[kPopupVariant] = small_;
     modeText_->setObjectName(QStringLiteral("lblFanMode"));
-    hint_->setObjectName(QStringLiteral("lblFanHint"));
-    hint_->setProperty("tone", QStringLiteral("secondary"));
-    hint_->setWordWrap(true);
+    head_->hint()->setObjectName(QStringLiteral("lblFanHint"));
     for (QLabel *label : {modeCaption_, modeBy_}) {
         label->setProperty("tone", QStringLiteral("secondary"));
     }
@@ -78,12 +75,8 @@ void FanPage::layOut() {
     cards_ = new QHBoxLayout;
     cards_->addWidget(trend_, 1);
     cards_->addWidget(curve_, 1);
-    auto *head = new QVBoxLayout;
-    head->setSpacing(style::space::kXs);
-    head->addWidget(title_);
-    head->addWidget(hint_);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(head);
+    layout->addWidget(head_);
     layout->addWidget(stateCard_);
     layout->addLayout(cards_, 1);
 }
@@ -121,9 +114,13 @@ void FanPage::setVariant(int variant) {
     modeText_->setVisible(!small);
 }
 
+void FanPage::showHead() {
+    head_->setTexts(qtTrId("FAN_PAGE_TITLE"), reachable_ ? QString() : qtTrId("FAN_UNREACHABLE"));
+}
+
 void FanPage::setReachable(bool reachable) {
     reachable_ = reachable;
-    hint_->setVisible(!reachable);
+    showHead();
     figures_->setEnabled(reachable);
     for (const FanSelector *each : selectors_) {
         each->button(fan::FanMode::Custom)->setEnabled(reachable);
@@ -194,8 +191,7 @@ void FanPage::showCurveState(CurveState state, int percent) {
 }
 
 void FanPage::retranslate() {
-    title_->setText(qtTrId("FAN_PAGE_TITLE"));
-    hint_->setText(qtTrId("FAN_UNREACHABLE"));
+    showHead();
     modeCaption_->setText(qtTrId("FAN_MODE"));
     figures_->setAccessibleName(qtTrId("FAN_SPEED"));
     opener_->setToolTip(qtTrId("FAN_CHOOSE_MODE"));
@@ -212,8 +208,7 @@ void FanPage::applyScale() {
     cards_->setSpacing(gap);
     stateCard_->layout()->setContentsMargins(gap, gap - qRound(2.0 * scale), gap, gap);
     stateCard_->layout()->setSpacing(qRound(style::space::kXl * scale));
-    title_->setFont(style::font(kPageTitlePixels * scale, QFont::DemiBold));
-    hint_->setFont(style::font(style::type::kBody * scale));
+    head_->applyScale(scale);
     modeCaption_->setFont(style::font(style::type::kBody * scale, QFont::Medium));
     modeText_->setFont(style::font(kModePixels * scale, QFont::DemiBold));
     opener_->setFont(style::font(kModePixels * scale, QFont::DemiBold));

@@ -79,6 +79,7 @@ protected:
 
 private:
     void layOut();
+    void showHead();
     void connectParts();
     void retranslate();
     void applyScale();
@@ -86,9 +87,8 @@ private:
     void showCurveCard();
     void choose(const QStringList &indexAndName);
 
-    QLabel *title_;
-    QLabel *hint_;
-    HistoryCard *stateCard_;
+    PageHead *head_;
+    Card *stateCard_;
     FanFigures *figures_;
     QLabel *modeCaption_;
     QLabel *modeText_;

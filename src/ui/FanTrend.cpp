@@ -5,6 +5,7 @@
 #include "ui/Figures.h"
 #include "ui/HistoryControls.h"
 #include "ui/Style.h"
+#include "ui/Temperature.h"
 #include "ui/TrendPlot.h"
 
 #include <QDateTime>
@@ -37,7 +38,9 @@ QString valueText(HistoryQuantity quantity, float value) {
     if (quantity == HistoryQuantity::Fan && value == 0.0F) {
         return qtTrId("MAIN_STR_FAN_STANDS");
     }
-    return QStringLiteral("%1 %2").arg(formatFigure(static_cast<double>(value), 0), unitOf(quantity));
+    return quantity == HistoryQuantity::Temperature
+               ? degreesText(static_cast<double>(value))
+               : QStringLiteral("%1 %2").arg(formatFigure(static_cast<double>(value), 0), unitOf(quantity));
 }
 
 } // namespace
@@ -72,8 +75,8 @@ QString FanTrend::readoutText() const {
         return kNoValue;
     }
     return qtTrId("FAN_HOUR_SPOKEN")
-        .arg(formatFigure(rpm->least, 0), formatFigure(rpm->most, 0), formatFigure(celsius->least, 0),
-             formatFigure(celsius->most, 0));
+        .arg(formatFigure(rpm->least, 0), formatFigure(rpm->most, 0),
+             formatFigure(degrees(celsius->least), 0), degreesText(celsius->most));
 }
 
 std::optional<double> FanTrend::readoutValue() const {
@@ -106,14 +109,21 @@ void FanTrend::take(const FanSample &sample) {
 
 void FanTrend::plotAxis(int axis, HistoryQuantity quantity, float FanSample::*value) {
     const auto range = hour_.range(value);
-    const ValueScale scale =
-        range ? scaleFor(quantity, range->least, range->most) : scaleFor(quantity, 20.0, 60.0);
+    // The axis is in what is plotted, its ticks are round in what is read.
+    const bool warm = quantity == HistoryQuantity::Temperature;
+    const auto read = [warm](double at) { return warm ? degrees(at) : at; };
+    const auto place = [warm](double at) { return warm ? celsiusOf(at) : at; };
+    const ValueScale scale = range ? scaleFor(quantity, read(range->least), read(range->most))
+                                   : scaleFor(quantity, read(20.0), read(60.0));
+    QList<double> ticks = scale.ticks();
+    std::transform(ticks.begin(), ticks.end(), ticks.begin(), place);
     // Below the lowest tick there is room for the strip of the modes.
     const double strip = (kModeStrip + style::space::kXs) * style::windowScale(*this);
     const double share = std::min(strip / std::max(plot().canvas()->height(), 1), 0.4);
     const double below = (scale.high() - scale.low) * share / (1.0 - share);
-    plot().setLabels(axis, [quantity, scale](double tick) { return axisText(quantity, scale, tick); });
-    plot().setTicks(axis, scale.low - below, scale.high(), scale.ticks());
+    plot().setLabels(axis,
+                     [quantity, scale, read](double tick) { return axisText(quantity, scale, read(tick)); });
+    plot().setTicks(axis, place(scale.low - below), place(scale.high()), ticks);
     QwtScaleWidget &labels = *plot().axisWidget(axis);
     labels.setMargin(0);
     labels.setFont(style::font(style::type::kSmall * style::windowScale(*this)));

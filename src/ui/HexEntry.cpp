@@ -1,6 +1,6 @@
 #include "ui/HexEntry.h"
 
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 #include "ui/Style.h"
 
 #include <QEvent>

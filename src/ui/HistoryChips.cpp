@@ -39,10 +39,19 @@ public:
         updateGeometry();
     }
 
+    void showUnit(bool shown) {
+        unitShown_ = shown;
+        updateGeometry();
+        update();
+    }
+
     [[nodiscard]] QSize sizeHint() const override {
         const qreal scale = style::windowScale(*this);
-        const qreal words = QFontMetricsF(textFont()).horizontalAdvance(text() + QLatin1Char(' ')) +
-                            QFontMetricsF(textFont()).horizontalAdvance(unitOf(quantity_));
+        const QFontMetricsF metrics(textFont());
+        qreal words = metrics.horizontalAdvance(text());
+        if (unitShown_) {
+            words += metrics.horizontalAdvance(QLatin1Char(' ')) + metrics.horizontalAdvance(unitOf(quantity_));
+        }
         return {qRound(words + (kSample + kGap + 2.0 * kPadding) * scale), qRound(kHeight * scale)};
     }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -78,6 +87,9 @@ protected:
         QRectF words(sample.right() + kGap * scale, 0.0, width(), height());
         painter.setPen(style::tone(isChecked() || underMouse() ? colour::kText : colour::kTextSecondary));
         painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, text());
+        if (!unitShown_) {
+            return;
+        }
         words.setLeft(words.left() + QFontMetricsF(textFont()).horizontalAdvance(text() + QLatin1Char(' ')));
         painter.setPen(style::tone(isChecked() ? colour::kTextSecondary : colour::kTextTertiary));
         painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, unitOf(quantity_));
@@ -89,6 +101,7 @@ private:
     }
 
     HistoryQuantity quantity_;
+    bool unitShown_ = true;
 };
 
 HistoryChips::HistoryChips(QWidget *parent) : QWidget(parent), on_{HistoryQuantity::Power} {
@@ -134,10 +147,16 @@ void HistoryChips::retranslate() {
     }
 }
 
-void HistoryChips::applyScale() {
+void HistoryChips::applyScale(int room) {
     layout()->setSpacing(qRound(style::space::kS * style::windowScale(*this)));
-    for (Chip *chip : chips_) {
-        chip->updateGeometry();
+    for (const bool units : {true, false}) {
+        for (Chip *chip : chips_) {
+            chip->showUnit(units);
+        }
+        layout()->invalidate();
+        if (layout()->sizeHint().width() <= room) {
+            return;
+        }
     }
 }
 

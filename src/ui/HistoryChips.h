@@ -18,7 +18,8 @@ public:
     /// One or two, in the order of HistoryQuantity: the first has the axis at the left.
     [[nodiscard]] std::vector<HistoryQuantity> shown() const;
     void retranslate();
-    void applyScale();
+    /// In this much room, pixels: without the units where that is little.
+    void applyScale(int room);
 
     [[nodiscard]] QSize sizeHint() const override;
 

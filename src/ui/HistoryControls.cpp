@@ -99,22 +99,11 @@ void giveLabelsRoom(TrendPlot &plot, qreal scale) {
     // Half a "00:00", so that the plot's ends stay where they are when other labels come to stand there.
     const int half = qRound(18.0 * scale);
     plot.axisWidget(QwtPlot::xBottom)->setMinBorderDist(half, half);
+    // Half a figure, and what hangs from it: a decimal comma.
+    const int above = qRound(8.0 * scale);
     for (const int axis : {QwtPlot::yLeft, QwtPlot::yRight}) {
-        plot.axisWidget(axis)->setMinBorderDist(qRound(8.0 * scale), qRound(5.0 * scale));
+        plot.axisWidget(axis)->setMinBorderDist(above, above);
     }
-}
-
-void drawFocus(QPainter &painter, const QWidget &widget) {
-    const qreal radius = style::kCardRadius * style::windowScale(widget);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(style::tone(colour::kAccent), 1.5));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(0.75, 0.75, -0.75, -0.75), radius, radius);
-}
-
-void HistoryCard::paintEvent(QPaintEvent * /*event*/) {
-    QPainter painter(this);
-    style::paintCard(painter, *this);
 }
 
 QSize StepButton::sizeHint() const {
@@ -170,23 +159,6 @@ void HistoryDateEdit::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     drawChevron(painter, square, {0.0, 1.0},
                 style::tone(isEnabled() ? colour::kTextSecondary : colour::kStale));
-}
-
-QSize ElidedLabel::sizeHint() const {
-    return {qRound(QFontMetricsF(font()).averageCharWidth() * 12.0), QLabel::sizeHint().height()};
-}
-
-void ElidedLabel::paintEvent(QPaintEvent * /*event*/) {
-    QPainter painter(this);
-    painter.setFont(font());
-    painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), static_cast<int>(alignment()),
-                     QFontMetrics(font()).elidedText(text(), Qt::ElideMiddle, width()));
-}
-
-void ElidedLabel::resizeEvent(QResizeEvent *event) {
-    QLabel::resizeEvent(event);
-    setToolTip(QFontMetrics(font()).horizontalAdvance(text()) > width() ? text() : QString());
 }
 
 } // namespace zpsg::ui

@@ -1,5 +1,5 @@
 // Mouse and keyboard on the day's plot.
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 #include "ui/HistoryDayView.h"
 #include "ui/TrendPlot.h"
 

@@ -239,12 +239,12 @@ void HistoryDayView::layOut(qreal scale) {
         lines->changed();
     }
     cursor_->setScale(scale);
-    chips_->applyScale();
     const QRect room = this->room();
-    const QSize needed = chips_->sizeHint();
-    chips_->setGeometry(room.left(), room.top(), needed.width(), needed.height());
     whole_->setFont(style::font(style::type::kLabel * scale, QFont::Medium));
     const int wide = whole_->sizeHint().width();
+    chips_->applyScale(room.width() - wide - qRound(style::space::kS * scale));
+    const QSize needed = chips_->sizeHint();
+    chips_->setGeometry(room.left(), room.top(), needed.width(), needed.height());
     whole_->setGeometry(room.right() - wide + 1, room.top(), wide, needed.height());
     for (QLabel *words : findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly)) {
         words->setGeometry(room); // there is no legend while they are shown

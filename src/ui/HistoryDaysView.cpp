@@ -9,6 +9,7 @@
 #include "ui/Style.h"
 #include "ui/TrendPlot.h"
 
+#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,6 +20,20 @@
 #include <cmath>
 
 namespace zpsg::ui {
+namespace {
+
+/// From one label of a day to the next, pixels.
+qreal labelRoom(qreal scale) {
+    const QFontMetricsF metrics(style::font(style::type::kSmall * scale));
+    qreal widest = 50.0 * scale;
+    for (int month = 1; month <= 12; ++month) {
+        const QString label = dateText(QDate(2028, month, 28), DateParts::DayMonth);
+        widest = std::max(widest, metrics.horizontalAdvance(label));
+    }
+    return widest + style::space::kL * scale;
+}
+
+} // namespace
 
 HistoryDaysView::HistoryDaysView(QWidget *parent)
     : TrendView(parent), bars_(new HistoryBars), measure_(new SegmentedControl(this)) {
@@ -150,7 +165,7 @@ void HistoryDaysView::replot() {
     const qreal scale = style::windowScale(*this);
     plot().setLabels(QwtPlot::yLeft, [values](double value) { return values.label(value); });
     plot().setTicks(QwtPlot::yLeft, 0.0, top_, values.ticks());
-    const DayScale days = dayScale(range_, qRound(room().width() / (66.0 * scale)));
+    const DayScale days = dayScale(range_, static_cast<int>(room().width() / labelRoom(scale)));
     plot().setLabels(QwtPlot::xBottom, [days](double tick) { return days.label(tick); });
     plot().setTicks(QwtPlot::xBottom, 0.0, range_.days(), days.ticks);
     giveLabelsRoom(plot(), scale);

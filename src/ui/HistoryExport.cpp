@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedLayout>
 #include <QStandardPaths>
@@ -45,7 +46,7 @@ private:
     bool failed_ = false;
 };
 
-HistoryExport::HistoryExport(QWidget *parent) : HistoryCard(parent), steps_(new QStackedLayout(this)) {
+HistoryExport::HistoryExport(QWidget *parent) : Card(parent), steps_(new QStackedLayout(this)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     steps_->addWidget(makeAsk());
     steps_->addWidget(makeRunning());
@@ -227,7 +228,7 @@ void HistoryExport::applyScale(qreal scale) {
 }
 
 void HistoryExport::changeEvent(QEvent *event) {
-    HistoryCard::changeEvent(event);
+    Card::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }

@@ -12,7 +12,7 @@ namespace zpsg::ui {
 
 class SegmentedControl;
 
-class HistoryExport final : public HistoryCard {
+class HistoryExport final : public Card {
     Q_OBJECT
 
 public:

@@ -165,6 +165,19 @@ void HistoryHead::showRange() {
     }
     back_->setEnabled(canStep(range_, -1, today_));
     forward_->setEnabled(canStep(range_, 1, today_));
+    fitTitle();
+}
+
+// The title gives way where the two dates of a range need its room; the navigation has the name as well.
+void HistoryHead::fitTitle() {
+    title_->show();
+    layout_->invalidate();
+    title_->setVisible(layout_->minimumSize().width() <= width());
+}
+
+void HistoryHead::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    fitTitle();
 }
 
 void HistoryHead::setExportOpen(bool open) { export_->setChecked(open); }
@@ -188,6 +201,7 @@ void HistoryHead::applyScale(qreal scale) {
     span_->updateGeometry();
     from_->applyScale(scale);
     to_->applyScale(scale);
+    fitTitle();
 }
 
 void HistoryHead::changeEvent(QEvent *event) {

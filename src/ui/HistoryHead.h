@@ -41,6 +41,7 @@ signals:
     void exportToggled(bool open);
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -51,6 +52,7 @@ private:
     void spanChosen();
     void datesEdited(bool fromEdited);
     void showRange();
+    void fitTitle();
 
     HistoryRange range_;
     QDate today_;

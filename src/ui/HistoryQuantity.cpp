@@ -1,6 +1,7 @@
 #include "ui/HistoryQuantity.h"
 
 #include "ui/Figures.h"
+#include "ui/Temperature.h"
 
 #include <QPainter>
 
@@ -90,9 +91,9 @@ QString unitOf(HistoryQuantity quantity) {
     case HistoryQuantity::Currents:
         return QStringLiteral("A");
     case HistoryQuantity::Temperature:
-        return QStringLiteral("\u00B0C");
+        return degreeUnit();
     case HistoryQuantity::Fan:
-        return QStringLiteral("rpm");
+        return qtTrId("FAN_RPM");
     case HistoryQuantity::Efficiency:
         break;
     }
@@ -115,9 +116,14 @@ QString nameOf(HistoryQuantity quantity, HistoryCurve curve) {
     }
 }
 
-QString figureOf(HistoryCurve curve, double value) { return formatFigure(value, decimalsOf(curve)); }
+QString figureOf(HistoryCurve curve, double value) {
+    return formatFigure(curve == HistoryCurve::Celsius ? degrees(value) : value, decimalsOf(curve));
+}
 
 double plotted(HistoryCurve curve, double value) {
+    if (curve == HistoryCurve::Celsius) {
+        return degrees(value);
+    }
     const double nominal = nominalOf(curve);
     return nominal > 0.0 ? (value / nominal - 1.0) * 100.0 : value;
 }

@@ -29,11 +29,12 @@ inline constexpr std::array kHistoryQuantities{HistoryQuantity::Power,    Histor
 [[nodiscard]] QString unitOf(HistoryQuantity quantity);
 /// The rail's name, or the quantity's when it has one curve.
 [[nodiscard]] QString nameOf(HistoryQuantity quantity, HistoryCurve curve);
-/// The value in the quantity's unit, without it.
+/// The value (temperatures in degrees Celsius) in the quantity's unit, without it.
 [[nodiscard]] QString figureOf(HistoryCurve curve, double value);
 
 /// Where a value is drawn: rails by how far they are off their nominal voltage, in percent, because in volts
-/// all three would be flat lines far apart; everything else as it is.
+/// all three would be flat lines far apart; temperatures in the unit that is read;
+/// everything else as it is.
 [[nodiscard]] double plotted(HistoryCurve curve, double value);
 /// The axis for plotted values between these.
 [[nodiscard]] ValueScale scaleFor(HistoryQuantity quantity, double least, double most);

@@ -42,6 +42,8 @@ void drawTag(QPainter &painter, const HistoryTag &tag, qreal left, qreal right, 
                lineHeight * (count + 1.0) + (tag.lines.empty() ? 0.8 : 1.3) * padding);
     const qreal beside = right + padding;
     box.moveLeft(beside + box.width() <= canvas.right() ? beside : left - padding - box.width());
+    // In a plot too narrow for it on either side it lies on what it tells of.
+    box.moveLeft(std::max(box.left(), canvas.left() + 1.0));
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style::tone(colour::kStale, 0.6), 1.0));

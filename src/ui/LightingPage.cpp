@@ -1,6 +1,6 @@
 #include "ui/LightingPage.h"
 
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 #include "ui/Icons.h"
 #include "ui/LightingOptions.h"
 #include "ui/RGB12LEDWidget.h"
@@ -13,50 +13,17 @@
 #include <QStackedLayout>
 
 namespace zpsg::ui {
-namespace {
-
-constexpr int kPageTitlePixels = 18;
-constexpr qreal kEmptySignSide = 40.0;
-
-/// A fan without lights.
-class EmptySign : public QWidget {
-public:
-    using QWidget::QWidget;
-
-    void applyScale(qreal scale) {
-        const int side = qRound(kEmptySignSide * scale);
-        setFixedSize(side, side);
-    }
-
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override {
-        QPainter painter(this);
-        paintIcon(painter, Icon::Ring, rect(), style::tone(style::colour::kTextTertiary));
-    }
-};
-
-} // namespace
-
 LightingPage::LightingPage(QWidget *parent)
     : QWidget(parent)
-    , title_(new QLabel(this))
-    , hint_(new QLabel(this))
+    , head_(new PageHead(this))
     , body_(new QWidget(this))
-    , empty_(new HistoryCard(body_))
-    , emptySign_(new EmptySign(empty_))
-    , emptyTitle_(new QLabel(empty_))
-    , emptyText_(new QLabel(empty_))
+    , empty_(new Card(body_))
+    , emptyState_(new EmptyState(Icon::Ring, style::colour::kTextTertiary, empty_))
     , single_(new ZpsCirq(body_))
     , plus_(new RGB12LEDWidget(body_))
     , duo_(new ZpsCirqDuo_Widget(body_))
     , options_(new LightingOptions(this)) {
-    hint_->setObjectName(QStringLiteral("lblLightingHint"));
-    hint_->setWordWrap(true);
-    hint_->setProperty("tone", QStringLiteral("secondary"));
-    emptyText_->setProperty("tone", QStringLiteral("secondary"));
-    emptyText_->setWordWrap(true);
-    emptyText_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    emptyTitle_->setAlignment(Qt::AlignHCenter);
+    head_->hint()->setObjectName(QStringLiteral("lblLightingHint"));
     layOut();
     retranslate();
     setRing(Ring::None);
@@ -67,22 +34,14 @@ std::array<RingPanel *, 3> LightingPage::panels() const { return {single_, plus_
 
 void LightingPage::layOut() {
     auto *emptyLayout = new QVBoxLayout(empty_);
-    emptyLayout->addStretch(2);
-    emptyLayout->addWidget(emptySign_, 0, Qt::AlignHCenter);
-    emptyLayout->addWidget(emptyTitle_);
-    emptyLayout->addWidget(emptyText_);
-    emptyLayout->addStretch(3);
+    emptyLayout->addWidget(emptyState_);
     stack_ = new QStackedLayout(body_);
     stack_->addWidget(empty_);
     for (RingPanel *panel : panels()) {
         stack_->addWidget(panel);
     }
-    auto *head = new QVBoxLayout;
-    head->setSpacing(style::space::kXs);
-    head->addWidget(title_);
-    head->addWidget(hint_);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(head);
+    layout->addWidget(head_);
     layout->addWidget(body_, 1);
     layout->addWidget(options_);
 }
@@ -100,9 +59,10 @@ void LightingPage::setReachable(bool reachable) {
 }
 
 void LightingPage::showHint() {
-    hint_->setText(reachable_ || ring_ == Ring::None ? qtTrId("LIGHTING_PAGE_HINT")
-                                                     : qtTrId("LIGHTING_UNREACHABLE"));
-    hint_->setVisible(ring_ != Ring::None);
+    const bool fitted = ring_ != Ring::None;
+    head_->setTexts(qtTrId("LIGHTING_PAGE_TITLE"), !fitted      ? QString()
+                                                   : reachable_ ? qtTrId("LIGHTING_PAGE_HINT")
+                                                                : qtTrId("LIGHTING_UNREACHABLE"));
 }
 
 void LightingPage::showGauge(int gauge) {
@@ -112,9 +72,7 @@ void LightingPage::showGauge(int gauge) {
 }
 
 void LightingPage::retranslate() {
-    title_->setText(qtTrId("LIGHTING_PAGE_TITLE"));
-    emptyTitle_->setText(qtTrId("LIGHTING_NONE"));
-    emptyText_->setText(qtTrId("LIGHTING_NONE_HINT"));
+    emptyState_->setTexts(qtTrId("LIGHTING_NONE"), qtTrId("LIGHTING_NONE_HINT"));
     showHint();
 }
 
@@ -123,12 +81,8 @@ void LightingPage::applyScale() {
     const int margin = qRound(style::space::kL * scale);
     layout()->setContentsMargins(margin, 0, margin, margin);
     layout()->setSpacing(qRound(style::space::kM * scale));
-    empty_->layout()->setSpacing(qRound(style::space::kS * scale));
-    title_->setFont(style::font(kPageTitlePixels * scale, QFont::DemiBold));
-    hint_->setFont(style::font(style::type::kBody * scale));
-    emptyTitle_->setFont(style::font(style::type::kTitle * scale, QFont::DemiBold));
-    emptyText_->setFont(style::font(style::type::kBody * scale));
-    static_cast<EmptySign *>(emptySign_)->applyScale(scale);
+    head_->applyScale(scale);
+    emptyState_->applyScale(scale);
     for (RingPanel *panel : panels()) {
         panel->applyScale(scale);
     }

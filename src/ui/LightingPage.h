@@ -10,7 +10,9 @@ class QStackedLayout;
 
 namespace zpsg::ui {
 
-class HistoryCard;
+class Card;
+class EmptyState;
+class PageHead;
 class LightingOptions;
 class RGB12LEDWidget;
 class RingPanel;
@@ -58,13 +60,10 @@ private:
     Ring ring_ = Ring::None;
     bool reachable_ = true;
     bool watched_ = false;
-    QLabel *title_;
-    QLabel *hint_;
+    PageHead *head_;
     QWidget *body_;
-    HistoryCard *empty_;
-    QWidget *emptySign_;
-    QLabel *emptyTitle_;
-    QLabel *emptyText_;
+    Card *empty_;
+    EmptyState *emptyState_;
     ZpsCirq *single_;
     RGB12LEDWidget *plus_;
     ZpsCirqDuo_Widget *duo_;

@@ -1,12 +1,15 @@
 #include "ui/MainView.h"
 
+#include "ui/AboutPage.h"
 #include "ui/AlarmBanner.h"
 #include "ui/AlarmsPage.h"
 #include "ui/DashboardPage.h"
+#include "ui/ElectricityRateWidget.h"
 #include "ui/FanPage.h"
 #include "ui/HistoryPage.h"
 #include "ui/LightingPage.h"
 #include "ui/NavigationRail.h"
+#include "ui/SettingsPage.h"
 #include "ui/Style.h"
 #include "ui/TitleBar.h"
 #include "ui/WindowFrame.h"
@@ -26,6 +29,8 @@ NavigationRail *makeNavigation(QWidget *parent) {
     rail->addPage(Icon::Ring, QT_TRID_NOOP("NAV_LIGHTING"));
     rail->addPage(Icon::Fan, QT_TRID_NOOP("NAV_FAN"));
     rail->addPage(Icon::Bell, QT_TRID_NOOP("NAV_ALARMS"));
+    rail->addPage(Icon::Settings, QT_TRID_NOOP("NAV_SETTINGS"));
+    rail->addPage(Icon::Info, QT_TRID_NOOP("NAV_ABOUT"));
     return rail;
 }
 
@@ -42,7 +47,10 @@ MainView::MainView(QWidget *parent)
     , history_(new HistoryPage(pages_))
     , lighting_(new LightingPage(pages_))
     , fan_(new FanPage(pages_))
-    , alarms_(new AlarmsPage(pages_)) {
+    , alarms_(new AlarmsPage(pages_))
+    , settings_(new SettingsPage(pages_))
+    , about_(new AboutPage(static_cast<int>(Page::About) + 1, pages_))
+    , rates_(new ElectricityRateWidget(this)) {
     setObjectName(QStringLiteral("centralMain"));
     setAttribute(Qt::WA_StyledBackground);
     setFont(style::font(style::type::kBody));
@@ -69,6 +77,8 @@ void MainView::layOut() {
     pages_->addWidget(lighting_);
     pages_->addWidget(fan_);
     pages_->addWidget(alarms_);
+    pages_->addWidget(settings_);
+    pages_->addWidget(about_);
     dashboard_->setAlarmBanner(alarmBanner_);
 
     auto *body = new QHBoxLayout;

@@ -7,13 +7,16 @@ class QStackedWidget;
 
 namespace zpsg::ui {
 
+class AboutPage;
 class AlarmBanner;
 class AlarmsPage;
 class DashboardPage;
+class ElectricityRateWidget;
 class FanPage;
 class HistoryPage;
 class LightingPage;
 class NavigationRail;
+class SettingsPage;
 class TitleBar;
 
 class MainView : public QWidget {
@@ -21,7 +24,7 @@ class MainView : public QWidget {
 
 public:
     /// In the order of the rail.
-    enum class Page { Dashboard, History, Lighting, Fan, Alarms };
+    enum class Page { Dashboard, History, Lighting, Fan, Alarms, Settings, About };
     Q_ENUM(Page)
 
     /// The least size at which every text has room.
@@ -37,6 +40,10 @@ public:
     [[nodiscard]] LightingPage *lighting() const { return lighting_; }
     [[nodiscard]] FanPage *fan() const { return fan_; }
     [[nodiscard]] AlarmsPage *alarms() const { return alarms_; }
+    [[nodiscard]] SettingsPage *settings() const { return settings_; }
+    [[nodiscard]] AboutPage *about() const { return about_; }
+    /// Lies over the whole view while it is open.
+    [[nodiscard]] ElectricityRateWidget *rates() const { return rates_; }
     /// Stands on the dashboard; the navigation counts what it shows.
     [[nodiscard]] AlarmBanner *alarmBanner() const { return alarmBanner_; }
 
@@ -68,6 +75,9 @@ private:
     LightingPage *lighting_;
     FanPage *fan_;
     AlarmsPage *alarms_;
+    SettingsPage *settings_;
+    AboutPage *about_;
+    ElectricityRateWidget *rates_;
 };
 
 } // namespace zpsg::ui

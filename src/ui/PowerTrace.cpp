@@ -63,7 +63,7 @@ QString PowerTrace::summaryText() const {
 void PowerTrace::scaleAxes() {
     const auto summary = buffer_.summary();
     top_ = axisTop(summary ? summary->peak : 0.0, top_);
-    plot().setTicks(QwtPlot::yLeft, 0.0, top_, quarters(top_));
+    plot().setTicks(QwtPlot::yLeft, 0.0, top_, levels(top_));
 
     const double tagRoom = kTagRoom * style::windowScale(*this);
     const double canvasWidth = std::max<double>(plot().canvas()->width(), 2.0 * tagRoom);

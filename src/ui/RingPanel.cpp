@@ -1,23 +1,25 @@
 #include "ui/RingPanel.h"
 
 #include "ui/ColourEditor.h"
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 #include "ui/RingPicture.h"
 #include "ui/Style.h"
 #include "ui/ToggleSwitch.h"
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QPushButton>
+#include <QVariant>
 
 namespace zpsg::ui {
 
 // Tab goes through the controls in the order in which they are made.
 RingPanel::RingPanel(lighting::RingKind kind, QWidget *parent)
     : QWidget(parent)
-    , pictureCard_(new HistoryCard(this))
-    , controlsCard_(new HistoryCard(this))
-    , shown_(new ElidedLabel(pictureCard_))
-    , source_(new QLabel(pictureCard_))
+    , pictureCard_(new Card(this))
+    , controlsCard_(new Card(this))
+    , shown_(new QLabel(pictureCard_))
+    , source_(new ElidedLabel(pictureCard_))
     , picture_(new RingPicture(kind, pictureCard_))
     , note_(new QLabel(pictureCard_))
     , hint_(new QLabel(pictureCard_))
@@ -33,10 +35,10 @@ RingPanel::RingPanel(lighting::RingKind kind, QWidget *parent)
     note_->setObjectName(QStringLiteral("lblRingNote"));
     source_->setObjectName(QStringLiteral("lblRingSource"));
     save_->setProperty("primary", true);
-    for (QLabel *label : {static_cast<QLabel *>(shown_), switchCaption_}) {
+    for (QLabel *label : {shown_, switchCaption_}) {
         label->setProperty("tone", QStringLiteral("secondary"));
     }
-    for (QLabel *label : {source_, hint_}) {
+    for (QLabel *label : {static_cast<QLabel *>(source_), hint_}) {
         label->setProperty("tone", QStringLiteral("tertiary"));
     }
     for (QLabel *label : {note_, hint_}) {
@@ -45,6 +47,7 @@ RingPanel::RingPanel(lighting::RingKind kind, QWidget *parent)
     }
     note_->hide();
     source_->hide();
+    source_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int rings = static_cast<int>(ringsOf(kind).size());
     for (int i = 0; picture_->ledCount() > 1 && i < (rings > 1 ? rings : 0) + 2; ++i) {
         auto *choice = new QPushButton(pictureCard_);
@@ -71,8 +74,8 @@ RingPanel::RingPanel(lighting::RingKind kind, QWidget *parent)
 
 void RingPanel::layOut() {
     auto *shownRow = new QHBoxLayout;
-    shownRow->addWidget(shown_, 1);
-    shownRow->addWidget(source_);
+    shownRow->addWidget(shown_);
+    shownRow->addWidget(source_, 1);
     auto *left = new QVBoxLayout(pictureCard_);
     left->addLayout(shownRow);
     left->addWidget(picture_, 1);
@@ -200,7 +203,7 @@ void RingPanel::applyScale(qreal scale) {
     const int gap = qRound(style::space::kS * scale);
     const int margin = qRound(style::space::kM * scale);
     layout()->setSpacing(margin);
-    for (HistoryCard *card : {pictureCard_, controlsCard_}) {
+    for (Card *card : {pictureCard_, controlsCard_}) {
         card->layout()->setContentsMargins(margin, margin, margin, margin);
     }
     pictureCard_->layout()->setSpacing(gap);
@@ -215,7 +218,7 @@ void RingPanel::applyScale(qreal scale) {
     shown_->setFont(style::font(style::type::kBody * scale, QFont::Medium));
     name_->setFont(style::font(style::type::kTitle * scale, QFont::DemiBold));
     switchCaption_->setFont(style::font(style::type::kBody * scale));
-    for (QLabel *label : {source_, note_}) {
+    for (QLabel *label : {static_cast<QLabel *>(source_), note_}) {
         label->setFont(style::font(style::type::kLabel * scale));
     }
     hint_->setFont(style::font(style::type::kSmall * scale));

@@ -18,7 +18,7 @@ namespace zpsg::ui {
 
 class ColourEditor;
 class ElidedLabel;
-class HistoryCard;
+class Card;
 class RingPicture;
 class ToggleSwitch;
 
@@ -72,10 +72,10 @@ private:
     void layOut();
     void showNotes();
 
-    HistoryCard *pictureCard_;
-    HistoryCard *controlsCard_;
-    ElidedLabel *shown_;
-    QLabel *source_;
+    Card *pictureCard_;
+    Card *controlsCard_;
+    QLabel *shown_;
+    ElidedLabel *source_;
     RingPicture *picture_;
     QLabel *note_;
     QLabel *hint_;

@@ -21,6 +21,7 @@ public:
     void setCurrent(int index);
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
     /// Another segment is the chosen one now.

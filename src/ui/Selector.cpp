@@ -1,6 +1,6 @@
 #include "ui/Selector.h"
 
-#include "ui/HistoryControls.h"
+#include "ui/Controls.h"
 #include "ui/Style.h"
 
 #include <QHBoxLayout>
@@ -9,6 +9,9 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QStylePainter>
+
+#include <algorithm>
+#include <cmath>
 
 namespace zpsg::ui {
 namespace {
@@ -19,6 +22,9 @@ namespace colour = style::colour;
 constexpr qreal kChevron = 8.0;
 constexpr qreal kStepWidth = 24.0;
 constexpr qreal kRow = 24.0;
+/// Beside the text of a closed list: its edge, and what says that it opens.
+constexpr qreal kBefore = 10.0;
+constexpr qreal kAfter = 22.0;
 
 /// `step`: -1 points up, +1 down.
 void drawChevron(QPainter &painter, const QPointF &centre, qreal side, int step, const QColor &ink) {
@@ -90,6 +96,7 @@ void Selector::setEntries(const QStringList &texts) {
     addItems(texts);
     entries_ = texts.size();
     setCurrentIndex(entry_);
+    updateGeometry();
 }
 
 void Selector::setBackEntry(const QString &text) {
@@ -159,7 +166,7 @@ void Selector::paintEvent(QPaintEvent * /*event*/) {
     initStyleOption(&option);
     option.currentText = QString();
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    const QRectF words = QRectF(rect()).adjusted(10.0 * scale, 0.0, -22.0 * scale, 0.0);
+    const QRectF words = QRectF(rect()).adjusted(kBefore * scale, 0.0, -kAfter * scale, 0.0);
     painter.setPen(style::tone(isEnabled() ? colour::kText : colour::kStale));
     painter.setFont(font());
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
@@ -168,9 +175,20 @@ void Selector::paintEvent(QPaintEvent * /*event*/) {
                 style::tone(isEnabled() ? colour::kTextSecondary : colour::kStale));
 }
 
+QSize Selector::minimumSizeHint() const {
+    const QFontMetricsF metrics(font());
+    qreal widest = 0.0;
+    for (int i = 0; i < entries_; ++i) {
+        widest = std::max(widest, metrics.horizontalAdvance(itemText(i)));
+    }
+    const qreal edges = (kBefore + kAfter) * style::windowScale(*this);
+    return {static_cast<int>(std::ceil(widest + edges)), QComboBox::minimumSizeHint().height()};
+}
+
 void Selector::applyScale(qreal scale) {
     setFont(style::font(style::type::kBody * scale));
     setFixedHeight(qRound(kControlHeight * scale));
+    updateGeometry();
 }
 
 UpDownButton::UpDownButton(int step, QWidget *parent) : QPushButton(parent), step_(step) {

@@ -23,6 +23,8 @@ public:
     /// As if the user had chosen the entry so far away; wraps at the ends.
     void step(int by);
     void applyScale(qreal scale);
+    /// As wide as the widest entry needs.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     /// The user has chosen another entry.

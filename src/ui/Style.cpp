@@ -17,7 +17,18 @@ QString css(QRgb rgba) {
         .arg(qAlpha(rgba));
 }
 
+constexpr QSize kUsualWindow{1100, 720};
+/// In which everything has room at a scale of 1.
+constexpr QSize kLeastWindow{960, 620};
+
+bool &largeText() {
+    static bool large = false;
+    return large;
+}
+
 } // namespace
+
+void setLargeText(bool large) { largeText() = large; }
 
 QFont font(qreal pixels, QFont::Weight weight) {
     static const QStringList families{QStringLiteral("Inter"), QStringLiteral("Segoe UI"),
@@ -69,10 +80,13 @@ QString sheet() {
                "QPushButton[primary=\"true\"]:hover { background: rgb(46,132,232); }"
                "QPushButton[primary=\"true\"]:pressed { background: rgb(26,98,184); }"
                "QPushButton[primary=\"true\"]:focus { border-color: %7; }"
+               "QPushButton[primary=\"true\"]:disabled { background: transparent;"
+               " border-color: rgba(255,255,255,22); }"
                "QLabel[tone=\"caution\"] { color: %6; }"
                "QLabel[figure=\"true\"]:disabled { color: %8; }"
                "QLineEdit[entry=\"true\"] { color: %1; background: rgba(255,255,255,18); border: 1px solid"
-               " rgba(255,255,255,40); border-radius: 6px; padding: 0 8px; selection-background-color: %5; }"
+               " rgba(255,255,255,40); border-radius: 6px; padding: 0 8px; selection-background-color: %5;"
+               " lineedit-password-character: 8226; }"
                "QLineEdit[entry=\"true\"]:focus { border-color: %7; }"
                "QLineEdit[entry=\"true\"]:disabled { color: %8; background: transparent;"
                " border-color: rgba(255,255,255,22); }"
@@ -85,6 +99,12 @@ QString sheet() {
                "QComboBox::drop-down { border: none; width: 0; }"
                "QComboBox QAbstractItemView { background: rgb(44,48,53); outline: none;"
                " border: 1px solid rgb(80,86,92); padding: 4px; }"
+               // where the desktop has no dialog of its own
+               "QFileDialog { background: rgb(36,39,43); }"
+               "QFileDialog QAbstractItemView, QFileDialog QLineEdit { color: %1; background: rgb(24,26,29);"
+               " selection-background-color: %5; }"
+               "QFileDialog QHeaderView::section { color: %2; background: rgb(36,39,43); border: none; }"
+               "QFileDialog QToolButton { background: %2; }"
                "QTableView { background: transparent; border: none; outline: none;"
                " selection-background-color: transparent; }"
                "QHeaderView { background: transparent; border: none; }"
@@ -113,7 +133,8 @@ void paintCard(QPainter &painter, const QWidget &card) {
 
 qreal windowScale(const QWidget &widget) {
     const QSize window = widget.window()->size();
-    const qreal fit = std::min(window.width() / 1100.0, window.height() / 720.0);
+    const QSizeF usual = largeText() ? QSizeF(kLeastWindow) : QSizeF(kUsualWindow);
+    const qreal fit = std::min(window.width() / usual.width(), window.height() / usual.height());
     return std::floor(std::clamp(fit, 1.0, 3.0) * 8.0) / 8.0;
 }
 

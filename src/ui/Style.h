@@ -66,6 +66,10 @@ inline constexpr int kCardRadius = 10;
 /// The surface that a group of figures stands on: all of `card`.
 void paintCard(QPainter &painter, const QWidget &card);
 
+/// Text as large as the window has room for, instead of some room between the parts. For the whole program;
+/// what is on the screen takes it with its next resize.
+void setLargeText(bool large);
+
 /// How much larger than in a window of the usual size captions, margins and axis labels are: the same for the
 /// whole window, so that they agree with each other. 1 to 3 in steps of an eighth.
 [[nodiscard]] qreal windowScale(const QWidget &widget);

@@ -38,6 +38,9 @@ TitleBar::TitleBar(QWidget *parent)
 
     connect(minimise_, &QAbstractButton::clicked, this, &TitleBar::minimiseReleased);
     connect(close_, &QAbstractButton::clicked, this, &TitleBar::closeReleased);
+    if (parent != nullptr) {
+        parent->installEventFilter(this);
+    }
     retranslate();
     applyScale();
 }
@@ -63,14 +66,31 @@ void TitleBar::resizeEvent(QResizeEvent *event) {
     applyScale();
 }
 
+// The scale may change with the window's height alone, of which the bar itself is not told.
+bool TitleBar::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Resize) {
+        applyScale();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void TitleBar::setVersionText(const QString &text) { version_->setText(text.trimmed()); }
+
+void TitleBar::setTrayAvailable(bool available) {
+    if (available != trayAvailable_) {
+        trayAvailable_ = available;
+        retranslate();
+    }
+}
 
 void TitleBar::retranslate() {
     title_->setText(qtTrId("TRAYICON_NAME"));
     minimise_->setToolTip(qtTrId("MAIN_STR_MINIMISE"));
     minimise_->setAccessibleName(qtTrId("MAIN_STR_MINIMISE"));
-    close_->setToolTip(qtTrId("MAIN_STR_CLOSE_TO_TRAY"));
-    close_->setAccessibleName(qtTrId("MAIN_STR_CLOSE_TO_TRAY"));
+    const QString closing =
+        trayAvailable_ ? qtTrId("MAIN_STR_CLOSE_TO_TRAY") : qtTrId("MAIN_STR_CLOSE_MINIMISES");
+    close_->setToolTip(closing);
+    close_->setAccessibleName(closing);
 }
 
 void TitleBar::takeWindowIcon() {

@@ -17,6 +17,8 @@ public:
     explicit TitleBar(QWidget *parent = nullptr);
 
     void setVersionText(const QString &text);
+    /// Whether closing leaves the program in the tray; without one it is minimised, and the button says so.
+    void setTrayAvailable(bool available);
 
 signals:
     /// The button was pressed and let go on it; letting go beside it takes the press back.
@@ -31,6 +33,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void retranslate();
@@ -44,6 +47,7 @@ private:
     QAbstractButton *close_;
     QPoint pressedAt_;
     bool pressed_ = false;
+    bool trayAvailable_ = true;
     qreal scale_ = 0.0; ///< of the window, as applied
 };
 

@@ -3,11 +3,14 @@
 #include "ui/Figures.h"
 #include "ui/Style.h"
 
+#include <QFontMetricsF>
+
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
 #include <qwt_scale_map.h>
 #include <qwt_scale_widget.h>
 
+#include <cmath>
 #include <utility>
 
 namespace zpsg::ui {
@@ -49,10 +52,18 @@ void TrendPlot::setScale(qreal scale) {
         colours.setColor(QPalette::WindowText, style::tone(colour::kTextTertiary));
         labels.setPalette(colours);
     }
+    giveDescentRoom();
 }
 
 void TrendPlot::setLabels(int axis, const BareScale::Labels &labels) {
     setAxisScaleDraw(axis, new BareScale(labels));
+    giveDescentRoom();
+}
+
+void TrendPlot::giveDescentRoom() {
+    // A scale is as high as its letters are above the base line.
+    const QFontMetricsF metrics(axisWidget(xBottom)->font());
+    axisScaleDraw(xBottom)->setMinimumExtent(style::space::kS + std::ceil(metrics.height()));
 }
 
 void TrendPlot::setTicks(int axis, double from, double to, const QList<double> &ticks) {

@@ -36,6 +36,9 @@ public:
     [[nodiscard]] double valueAt(const QPoint &inParent) const;
     /// Where the data are, in the plot's parent.
     [[nodiscard]] QRect canvasInParent() const;
+
+private:
+    void giveDescentRoom();
 };
 
 /// Whole numbers without places, others with one.

@@ -52,6 +52,15 @@ QRect TrendView::room() const {
     return {left, top, width() - 2 * left, height() - top - gap};
 }
 
+QList<double> TrendView::levels(double top) const {
+    const qreal label = style::type::kSmall * style::windowScale(*this) * 1.3;
+    const qreal high = plotPlace(room()).height() - label - style::space::kS;
+    if (high >= 4.0 * label) {
+        return quarters(top);
+    }
+    return high >= 2.0 * label ? QList<double>{0.0, 0.5 * top, top} : QList<double>{0.0, top};
+}
+
 void TrendView::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
     replot();

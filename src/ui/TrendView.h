@@ -47,6 +47,8 @@ protected:
     [[nodiscard]] const TrendPlot &plot() const { return *plot_; }
     /// The room below the caption, within the margins.
     [[nodiscard]] QRect room() const;
+    /// Ticks of the left axis from 0 to `top`, as many as their labels have room for.
+    [[nodiscard]] QList<double> levels(double top) const;
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -49,7 +49,7 @@ for folder in "$src"/*/; do
         ;;
     esac
 done
-if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|Lighting|FanCurve|LED_Color|Mqtt|Socket|Metrics)/' "$src" \
+if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|Lighting|FanCurve|LED_Color|Mqtt|Socket|Metrics|Window)/' "$src" \
     --include='*.cpp' --include='*.h' | grep -v 'app/SettingsTable.h'; then
     complain "a settings key is built outside app/SettingsTable.h"
 fi

@@ -62,11 +62,11 @@ bool removeEntry(std::string &error) {
 
 } // namespace
 
-bool setAutostart(bool enabled, const std::string &executable, std::string &error) {
-    if (!enabled) {
+bool setAutostart(Autostart mode, const std::string &executable, std::string &error) {
+    if (mode == Autostart::Off) {
         return removeEntry(error);
     }
-    const std::string exec = execValue(executable);
+    const std::string exec = execValue(executable, mode == Autostart::Hidden);
     const auto entry = readEntry();
     return (entry && entryStarts(*entry, exec)) || writeEntry(desktopEntry(exec), error);
 }

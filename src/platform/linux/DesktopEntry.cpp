@@ -57,7 +57,7 @@ MainGroup readMainGroup(std::string_view entry) {
 
 } // namespace
 
-std::string execValue(const std::string &executable) {
+std::string execValue(const std::string &executable, bool hidden) {
     // Three layers in one pass: '%' starts a field code; inside quotes four characters take a backslash; and
     // the file format itself takes a backslash before each backslash and has letters for line breaks and
     // tabs.
@@ -88,7 +88,7 @@ std::string execValue(const std::string &executable) {
             quoted += c;
         }
     }
-    return quoted + "\" open";
+    return quoted + (hidden ? "\" open" : "\"");
 }
 
 std::string desktopEntry(const std::string &exec) {

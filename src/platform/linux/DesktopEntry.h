@@ -5,8 +5,9 @@
 
 namespace zpsg::platform {
 
-/// The Exec value that starts `"<executable>" open`, quoted and escaped by the rules for desktop entries.
-std::string execValue(const std::string &executable);
+/// The Exec value that starts `"<executable>"`, with the argument "open" when it is to come up hidden, quoted
+/// and escaped by the rules for desktop entries.
+std::string execValue(const std::string &executable, bool hidden);
 
 /// A whole entry with this Exec value.
 std::string desktopEntry(const std::string &exec);

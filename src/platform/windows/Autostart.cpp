@@ -41,12 +41,12 @@ bool succeeded(LSTATUS status, std::string &error) {
 
 } // namespace
 
-bool setAutostart(bool enabled, const std::string &executable, std::string &error) {
-    if (!enabled) {
+bool setAutostart(Autostart mode, const std::string &executable, std::string &error) {
+    if (mode == Autostart::Off) {
         const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, kRunKey, kValueName);
         return status == ERROR_FILE_NOT_FOUND || succeeded(status, error);
     }
-    const std::wstring command = runCommand(wide(executable));
+    const std::wstring command = runCommand(wide(executable), mode == Autostart::Hidden);
     return readValue() == command || succeeded(RegSetKeyValueW(HKEY_CURRENT_USER, kRunKey, kValueName, REG_SZ,
                                                                command.c_str(), bytesOf(command)),
                                                error);

@@ -4,9 +4,10 @@
 
 namespace zpsg::platform {
 
-std::wstring runCommand(std::wstring executable) {
+std::wstring runCommand(std::wstring executable, bool hidden) {
     std::replace(executable.begin(), executable.end(), L'/', L'\\');
-    return L'"' + executable + L"\" open"; // a path here holds no quotes: the file system has none
+    // A path here holds no quotes: the file system has none.
+    return L'"' + executable + (hidden ? L"\" open" : L"\"");
 }
 
 } // namespace zpsg::platform

@@ -29,7 +29,7 @@ protected:
 
     void minutes(app::Recorder &recorder, int count) {
         for (int i = 0; i < count; ++i) {
-            recorder.saveData(record, QStringLiteral("SN"), now);
+            recorder.saveData(record, QStringLiteral("SN"), sensors, now);
             now = now.addSecs(60);
         }
     }
@@ -38,6 +38,7 @@ protected:
     QTemporaryDir resources;
     app::Settings settings{data.path()};
     psu::TelemetryRecord record;
+    records::PcSensors sensors{};
     QDateTime now{QDate(2026, 11, 21), QTime(21, 0)};
 };
 
@@ -61,6 +62,16 @@ TEST_F(RecorderTest, CountsSettledAndUnsettledMinutesOnce) {
     const auto days = make()->totals(first, first);
     ASSERT_EQ(days.size(), 1U);
     EXPECT_EQ(days[0].count, 180);
+}
+
+TEST_F(RecorderTest, RecordsThePcsOwnSensorsInTheLastFields) {
+    sensors = {1.25F, 30.5F, 65.0F, 54.0F, 0.0F, 0.0F, 120.25F, 61.0F};
+    const auto recorder = make();
+    minutes(*recorder, 1);
+    const auto rows = records::readFile(records::recordPath(data.path(), 1)).rows;
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_TRUE(rows.front().endsWith(QStringLiteral(",1.25,30.50,65.00,54.00,0.00,0.00,120.25,61.00")))
+        << qPrintable(rows.front());
 }
 
 TEST_F(RecorderTest, TellsOnceThatTheDiskIsFullAndLosesNothing) {

@@ -34,7 +34,7 @@ protected:
                                                [] { return 0U; });
         lights = std::make_unique<app::Lighting>(*supply, settings);
         fan = std::make_unique<app::FanControl>(*supply, settings);
-        usage = std::make_unique<app::Usage>(*supply, settings);
+        usage = std::make_unique<app::Usage>(*supply, settings, dir.path());
         services = std::make_unique<app::RemoteServices>(
             app::RemoteServices::Parts{*supply, settings, *alarms, *fan, *lights, *usage, [] { return 0U; }});
         supply->identifyModel();

@@ -36,7 +36,7 @@ TEST_F(SettingsTest, GivesDefaultsAndKeepsWhatIsWritten) {
     const QStringList day{QStringLiteral("0"), QStringLiteral("12.5"), QStringLiteral("1e+06")};
     {
         Settings settings(dir.path());
-        EXPECT_EQ(settings.text(Setting::Language), QStringLiteral("en"));
+        EXPECT_EQ(settings.text(Setting::Language), QString());
         EXPECT_FALSE(settings.flag(Setting::Autostart));
         EXPECT_TRUE(settings.write({{Setting::Language, QStringLiteral("jp")},
                                     {Setting::TotalUsedKwh, 12.5},

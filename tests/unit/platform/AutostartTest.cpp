@@ -28,7 +28,7 @@ protected:
         std::ofstream(entry()) << text;
     }
 
-    bool enable(const std::string &executable) { return setAutostart(true, executable, error_); }
+    bool enable(const std::string &executable) { return setAutostart(Autostart::Hidden, executable, error_); }
 
     std::string error_;
 };
@@ -65,16 +65,19 @@ TEST_F(AutostartTest, WhatIsInLineAlreadyIsNotTouched) {
     write("# mine\n[Desktop Entry]\nName=Meter\nExec = \"/opt/zpsg\" open\nX-Delay=10\n");
     EXPECT_TRUE(untouched("/opt/zpsg")) << "what the user added stays";
     EXPECT_FALSE(untouched("/opt/elsewhere/zpsg")) << "the program has moved";
+    ASSERT_TRUE(setAutostart(Autostart::Shown, "/opt/zpsg", error_));
+    EXPECT_NE(text().find("Exec=\"/opt/zpsg\"\n"), std::string::npos) << "not hidden any more";
+    EXPECT_FALSE(untouched("/opt/zpsg")) << "hidden again";
     write("[Other]\nExec=\"/opt/zpsg\" open\n");
     EXPECT_FALSE(untouched("/opt/zpsg")) << "the line is in another group";
 }
 
 TEST_F(AutostartTest, SwitchedOnAndOff) {
     EXPECT_FALSE(autostartEnabled());
-    EXPECT_TRUE(setAutostart(false, "/opt/zpsg", error_)) << "nothing to remove";
+    EXPECT_TRUE(setAutostart(Autostart::Off, "/opt/zpsg", error_)) << "nothing to remove";
     ASSERT_TRUE(enable("/opt/zpsg"));
     EXPECT_TRUE(autostartEnabled());
-    EXPECT_TRUE(setAutostart(false, "/opt/zpsg", error_));
+    EXPECT_TRUE(setAutostart(Autostart::Off, "/opt/zpsg", error_));
     EXPECT_FALSE(fs::exists(entry()));
     EXPECT_FALSE(autostartEnabled());
 

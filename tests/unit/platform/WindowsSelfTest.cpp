@@ -5,6 +5,7 @@
 #include "platform/DeviceAccess.h"
 #include "platform/DeviceWatch.h"
 #include "platform/ExitRequest.h"
+#include "platform/PcSensors.h"
 #include "platform/RawHid.h"
 #include "platform/SessionWatch.h"
 #include "platform/SystemMenu.h"
@@ -18,6 +19,7 @@
 #include <iostream>
 #include <span>
 #include <utility>
+#include <vector>
 
 using namespace zpsg::platform;
 
@@ -68,9 +70,21 @@ void notices() {
 void settings() {
     std::string error;
     if (!autostartEnabled()) {
-        expect(setAutostart(false, "", error), "nothing to remove");
+        expect(setAutostart(Autostart::Off, "", error), "nothing to remove");
     }
     onExitRequest([] {});
+}
+
+void sensors() {
+    expect(pcSensorAccess() == PcSensorAccess::Memory && openPcChips() == nullptr,
+           "chips are left to HWiNFO");
+    expect(!processorName().empty(), "the processor has a name");
+    const auto memory = openPcSensorMemory();
+    std::vector<std::byte> block;
+    constexpr std::size_t kHeader = 44;
+    expect(memory->copy(block) != MemoryState::Copied || block.size() > kHeader,
+           "HWiNFO's block has a header");
+    memory->close();
 }
 
 void simulatedSupply() {
@@ -87,6 +101,7 @@ int main() {
     devices();
     notices();
     settings();
+    sensors();
     simulatedSupply();
     return failures == 0 ? 0 : 1;
 }

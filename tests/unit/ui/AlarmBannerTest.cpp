@@ -74,7 +74,7 @@ TEST_F(AlarmBannerTest, ShowsWhatThereIsRoomForAndSpeaksOfAll) {
         EXPECT_EQ(texts.front(), c.first);
         EXPECT_EQ(texts.back(), c.last);
         EXPECT_EQ(banner_.accessibleName(), banner_.spokenText());
-        const std::array values{"11.21 V", "0 rpm", "63 \u00B0C", "5.30 V", "3.101 V"};
+        const std::array values{"11.21 V", "0 rpm", "63\u00A0\u00B0C", "5.30 V", "3.101 V"};
         for (std::size_t i = 0; i < values.size(); ++i) {
             EXPECT_EQ(banner_.spokenText().contains(QString::fromUtf8(values.at(i))), i < c.holding)
                 << values.at(i) << " of " << c.holding;

@@ -5,6 +5,8 @@
 #include "ui/ConnectionBanner.h"
 #include "ui/DayView.h"
 #include "ui/EfficiencyView.h"
+#include "ui/EnergyView.h"
+#include "ui/PcView.h"
 #include "ui/PowerTrace.h"
 #include "ui/RailCard.h"
 #include "ui/TrendPanel.h"
@@ -25,7 +27,10 @@ protected:
     [[nodiscard]] QStringList readouts() const {
         QStringList texts;
         for (const Readout *readout : page_.findChildren<Readout *>()) {
-            if (readout != page_.trends()->power() && readout != page_.trends()->day()) {
+            const auto *trends = page_.trends();
+            const std::array<const Readout *, 4> others{trends->power(), trends->day(), trends->energy(),
+                                                        trends->pc()};
+            if (std::find(others.begin(), others.end(), readout) == others.end()) {
                 texts << readout->readoutText();
             }
         }

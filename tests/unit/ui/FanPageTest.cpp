@@ -107,7 +107,7 @@ TEST_F(FanPageTest, ChoosingCustomAsksForASpeedAndForwardsIt) {
 TEST_F(FanPageTest, FiguresFollowTheReadings) {
     const auto *figures = page_->findChild<FanFigures *>();
     page_->takeReading({997.4, 46.6, 44.3, FanMode::Silent}, kBegin);
-    EXPECT_EQ(figures->readoutText(), QStringLiteral("997 rpm, 44 % of full speed, 47 \u00B0C"));
+    EXPECT_EQ(figures->readoutText(), QStringLiteral("997 rpm, 44 % of full speed, 47\u00A0\u00B0C"));
     page_->takeReading({0.0, 39.0, 0.0, FanMode::ZeroFan}, kBegin + 1000);
     EXPECT_EQ(figures->speedText(), QStringLiteral("Stopped"));
     page_->setReachable(false);

@@ -124,7 +124,7 @@ TEST_F(FanTrendTest, TheStripHasTheModesAndTheGaps) {
     for (const fan::FanModeRow &row : fan::kFanModes) {
         EXPECT_NE(gap, inkOf(row.mode)) << row.name;
     }
-    EXPECT_EQ(trend_.readoutText(), QStringLiteral("Fan 800 to 800 rpm, temperature 40 to 40 \u00B0C"));
+    EXPECT_EQ(trend_.readoutText(), QStringLiteral("Fan 800 to 800 rpm, temperature 40 to 40\u00A0\u00B0C"));
 }
 
 TEST_F(FanTrendTest, DrawsOnlyWhenAPixelHasPassed) {

@@ -1,5 +1,5 @@
-// Every key that the program asks for has an English text, and the texts take what the program puts into
-// them.
+// Every key that the program asks for has an English text, and the texts of all languages take what the
+// program puts into them.
 
 #include "lighting/Effects.h"
 #include "lighting/LightingState.h"
@@ -22,10 +22,10 @@ QString contents(const QString &path) {
     return QString::fromUtf8(file.readAll());
 }
 
-/// Keys and texts; a key that is there twice is a failure.
-QMap<QString, QString> englishTexts() {
+/// Keys and texts of a language; a key that is there twice is a failure.
+QMap<QString, QString> textsOf(const QString &language) {
     QMap<QString, QString> texts;
-    QXmlStreamReader xml(contents(QStringLiteral(ZPSG_SOURCE_DIR "/data/translations/en.ts")));
+    QXmlStreamReader xml(contents(QStringLiteral(ZPSG_SOURCE_DIR "/data/translations/%1.ts").arg(language)));
     QString id;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) {
@@ -42,6 +42,20 @@ QMap<QString, QString> englishTexts() {
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
     return texts;
+}
+
+QMap<QString, QString> englishTexts() { return textsOf(QStringLiteral("en")); }
+
+/// The places for figures, "%1" and on, each as often as it is there.
+QStringList placesIn(const QString &text) {
+    static const QRegularExpression place(QStringLiteral("%[0-9]"));
+    QStringList places;
+    auto matches = place.globalMatch(text);
+    while (matches.hasNext()) {
+        places << matches.next().captured();
+    }
+    places.sort();
+    return places;
 }
 
 QSet<QString> keysInSources() {
@@ -86,6 +100,23 @@ TEST(TranslationKeys, EveryNameOfALightModeHasAnEnglishText) {
     expectTexts(lighting::kPlusLightModes);
     expectTexts(lighting::kSpeeds);
     expectTexts(lighting::duoEffects());
+}
+
+TEST(TranslationKeys, EveryLanguageIsComplete) {
+    const auto english = englishTexts();
+    for (const char *language : {"tc", "sc", "fr", "de", "jp", "ru", "sh"}) {
+        SCOPED_TRACE(language);
+        const auto texts = textsOf(QString::fromLatin1(language));
+        EXPECT_EQ(texts.keys(), english.keys());
+        int same = 0;
+        for (auto text = texts.constBegin(); text != texts.constEnd(); ++text) {
+            const QString original = english.value(text.key());
+            EXPECT_FALSE(text->isEmpty()) << qPrintable(text.key());
+            EXPECT_EQ(placesIn(*text), placesIn(original)) << qPrintable(text.key());
+            same += *text == original ? 1 : 0;
+        }
+        EXPECT_LT(same, english.size() / 8) << "texts that were not translated";
+    }
 }
 
 TEST(TranslationKeys, TextsHaveThePlacesForTheirFigures) {

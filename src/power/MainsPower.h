@@ -3,7 +3,7 @@
 
 #include <optional>
 
-namespace zpsg::ui {
+namespace zpsg::power {
 
 struct MainsPower {
     double inputWatts; ///< taken from the wall
@@ -20,4 +20,4 @@ struct MainsPower {
     return MainsPower{input, input - *outputWatts};
 }
 
-} // namespace zpsg::ui
+} // namespace zpsg::power
