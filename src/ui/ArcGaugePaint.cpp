@@ -126,7 +126,8 @@ void ArcGauge::paintDivisions(QPainter &painter, const QRectF &note) const {
 }
 
 qreal ArcGauge::endLabelMiddle() const {
-    return face_.centre.y() + direction(0.0).y() * face_.radius + face_.stroke * 0.5 + 7.0 * face_.enlargement;
+    return face_.centre.y() + direction(0.0).y() * face_.radius + face_.stroke * 0.5 +
+           7.0 * face_.enlargement;
 }
 
 void ArcGauge::paintTicks(QPainter &painter) const {

@@ -50,7 +50,8 @@ public:
         const QFontMetricsF metrics(textFont());
         qreal words = metrics.horizontalAdvance(text());
         if (unitShown_) {
-            words += metrics.horizontalAdvance(QLatin1Char(' ')) + metrics.horizontalAdvance(unitOf(quantity_));
+            words +=
+                metrics.horizontalAdvance(QLatin1Char(' ')) + metrics.horizontalAdvance(unitOf(quantity_));
         }
         return {qRound(words + (kSample + kGap + 2.0 * kPadding) * scale), qRound(kHeight * scale)};
     }

@@ -16,6 +16,8 @@ namespace colour = style::colour;
 constexpr qreal kRowHeight = 19.0;
 constexpr qreal kColumn = 44.0;
 constexpr qreal kSample = 22.0;
+/// A name is not made smaller than this for its unit's sake.
+constexpr qreal kLeastPixels = 10.0;
 
 } // namespace
 
@@ -82,11 +84,15 @@ void HistoryLegend::paintEvent(QPaintEvent * /*event*/) {
             drawSample(painter, row.quantity, *row.curve, sample, inkOf(row.quantity));
         }
         const qreal room = columnRight(0) - kColumn * scale * (heading ? -2.0 : 0.85) - indent;
-        const QString words = row.unit.isEmpty() ? row.name : row.name + QLatin1Char(' ') + row.unit;
+        // The unit is at the axis as well.
+        const QString both = row.name + QLatin1Char(' ') + row.unit;
+        const bool unit = !row.unit.isEmpty() &&
+                          QFontMetricsF(style::font(kLeastPixels * scale)).horizontalAdvance(both) <= room;
+        const QString words = unit ? both : row.name;
         painter.setFont(fittingFont(nameFont, words, room));
         painter.setPen(style::tone(heading ? colour::kTextTertiary : colour::kText));
         painter.drawText(line.adjusted(indent, 0.0, 0.0, 0.0), Qt::AlignLeft | Qt::AlignVCenter, row.name);
-        if (!row.unit.isEmpty()) {
+        if (unit) {
             const qreal after = QFontMetricsF(painter.font()).horizontalAdvance(row.name + QLatin1Char(' '));
             painter.setPen(style::tone(colour::kTextTertiary));
             painter.drawText(line.adjusted(indent + after, 0.0, 0.0, 0.0), Qt::AlignLeft | Qt::AlignVCenter,

@@ -18,7 +18,7 @@ namespace {
 namespace colour = style::colour;
 
 /// All in a window of the usual size.
-constexpr int kWidth = 72;
+constexpr int kWidth = 76;
 constexpr int kButtonHeight = 60;
 constexpr qreal kIconSide = 22.0;
 constexpr qreal kIconTop = 10.0;
@@ -85,7 +85,7 @@ protected:
         const QRectF label(0.0, kLabelTop * scale, width(), style::type::kSmall * 1.5 * scale);
         painter.setPen(ink);
         painter.setFont(fittingFont(style::font(style::type::kSmall * scale, QFont::Medium), text(),
-                                    width() - 12.0 * scale));
+                                    width() - 10.0 * scale));
         painter.drawText(label, Qt::AlignCenter, text());
         if (badge_ > 0) {
             paintBadge(painter, scale, sign.topRight());

@@ -8,6 +8,7 @@
 #include "ui/Style.h"
 #include "ui/Temperature.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <array>
@@ -153,6 +154,7 @@ SettingsSection *makeEnergySettings(SettingsLink &link, QWidget *parent) {
     auto *rate =
         new SettingButtonRow({QT_TRID_NOOP("SETTING_STR_RATE"), QT_TRID_NOOP("SETTING_STR_RATE_HINT")},
                              QT_TRID_NOOP("SETTING_STR_CHANGE"), cost);
+    rate->button()->setObjectName(QStringLiteral("btnRates"));
     cost->addRow(rate);
     QObject::connect(rate, &SettingButtonRow::pressed, &link, &SettingsLink::ratesRequested);
     QObject::connect(&link, &SettingsLink::statusShown, rate,

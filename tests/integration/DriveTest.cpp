@@ -34,7 +34,7 @@ using Section = ui::SettingsPage::Section;
 
 namespace {
 
-constexpr int kPatience = 20000;
+constexpr int kPatience = 10000;
 
 /// Carries out what a hand would do, and returns when the server has taken it.
 void hand(const QStringList &arguments) {
@@ -176,35 +176,39 @@ TEST_F(DriveTest, AnotherLanguageAtOnceAndAtTheNextStart) {
 TEST_F(DriveTest, TheFanDoesWhatIsClicked) {
     press("ctrl+4");
     click(find<QWidget>("btnFanMode")); // opens the selector of the Duo set's fan
-    const auto mode = [this] {
-        int fan = -1;
-        bus->withModel([&fan](simulator::SupplyModel &supply) { fan = static_cast<int>(supply.fanMode()); });
-        return fan;
+    const auto isIn = [this](fan::FanMode wanted) {
+        bool same = false;
+        bus->withModel([&](simulator::SupplyModel &supply) {
+            same = static_cast<int>(supply.fanMode()) ==
+                   fan::kFanModes.at(static_cast<std::size_t>(wanted)).modeByte;
+        });
+        return same;
     };
     for (const auto wanted : {fan::FanMode::Performance, fan::FanMode::Silent}) {
         if (auto *opener = find<QWidget>("btnFanMode"); !view().fan()->selector()->isVisible()) {
             click(opener);
         }
         click(view().fan()->selector()->button(wanted));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return mode() == static_cast<int>(wanted); }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isIn(wanted); }, kPatience));
     }
 }
 
 TEST_F(DriveTest, TheLightsGoOffAndOnAgain) {
     press("ctrl+3");
     const auto dark = [this] {
-        bool none = false;
-        bus->withModel([&none](simulator::SupplyModel &supply) {
-            const auto &frame = supply.ledFrame();
-            none = std::all_of(frame.begin(), frame.end(), [](auto byte) { return byte == 0; });
+        auto report = psu::makeRequest({0x30, 0x42});
+        bus->withModel([&report](simulator::SupplyModel &supply) {
+            std::copy(supply.ledFrame().begin(), supply.ledFrame().end(), report.begin() + 3);
         });
-        return none;
+        const auto leds = lighting::heldBy(report, lighting::RingKind::Duo)->colours;
+        return std::all_of(leds.begin(), leds.end(), [](auto led) { return led == lighting::kDark; });
     };
     auto *lights = view().lighting()->duo()->findChild<QAbstractButton *>(QStringLiteral("switchLights"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !dark(); }, kPatience));
     click(lights);
     EXPECT_TRUE(QTest::qWaitFor(dark, kPatience));
-    press("space"); // it has the focus
+    lights->setFocus(Qt::TabFocusReason);
+    press("space");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dark(); }, kPatience));
 }
 
@@ -222,13 +226,13 @@ TEST_F(DriveTest, ARateIsEnteredAndKept) {
 }
 
 TEST_F(DriveTest, HistoryIsExportedToAFile) {
-    window->saveData();
+    window->saveData(); // a minute to be exported
     press("ctrl+2");
     click(find<QWidget>("btnHistoryExport"));
     click(find<QWidget>("btnExportFile"));
     QFileDialog *dialog = nullptr;
     ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return (dialog = view().findChild<QFileDialog *>()) != nullptr && dialog->isVisible(); },
+        [&] { return (dialog = window->findChild<QFileDialog *>()) != nullptr && dialog->isVisible(); },
         kPatience));
     const QString path = home.filePath(QStringLiteral("out.csv"));
     dialog->activateWindow();
