@@ -284,7 +284,7 @@ void CvZpsGV2::showUsage() {
 void CvZpsGV2::takeSettings() {
     pcFeed_->showState();
     feed_->showWarnings();
-    trayFeed_->tick();
+    trayFeed_->takeSettings();
 }
 
 void CvZpsGV2::hwinfoOpenFail(const QString &reason) {

@@ -13,13 +13,18 @@ TrayFeed::TrayFeed(Parts parts, Tray &tray, QObject *parent)
     connect(&tray_, &Tray::lightsToggled, this, &TrayFeed::switchLights);
     connect(&parts_.fan, &FanControl::changed, this, &TrayFeed::tick);
     connect(&parts_.lighting, &Lighting::changed, this, &TrayFeed::tick);
+    takeSettings();
+}
+
+void TrayFeed::takeSettings() {
+    figure_ = static_cast<ui::TrayFigure>(parts_.settings.integer(Setting::TrayFigure));
     tick();
 }
 
 void TrayFeed::tick() {
     const auto &supply = parts_.supply;
     ui::TrayShown shown;
-    shown.figure = static_cast<ui::TrayFigure>(parts_.settings.integer(Setting::TrayFigure));
+    shown.figure = figure_;
     shown.state = supply.monitor().state();
     shown.model = supply.monitor().modelText();
     shown.watts = supply.fresh("WATTS");

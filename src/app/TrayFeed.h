@@ -27,6 +27,8 @@ public:
 
     /// Once a second, and when something was chosen.
     void tick();
+    /// What stands in the icon may be another figure now.
+    void takeSettings();
     /// The window has been closed into the tray: says so, the first time.
     void tellOnce();
 
@@ -40,6 +42,7 @@ private:
 
     Parts parts_;
     Tray &tray_;
+    ui::TrayFigure figure_ = ui::TrayFigure::Load;
 };
 
 } // namespace zpsg::app

@@ -7,6 +7,7 @@
 #include <QThread>
 
 #include <chrono>
+#include <condition_variable>
 #include <functional>
 #include <mutex>
 
@@ -61,6 +62,8 @@ private:
     const SendFrame sendFrame_;
     const Now now_;
     mutable std::mutex mutex_; // guards what follows
+    std::condition_variable end_;
+    bool ending_ = false;
     DuoState state_;
     DuoSurroundings surroundings_;
     std::function<Sound()> soundSource_;

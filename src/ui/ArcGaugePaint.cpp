@@ -220,7 +220,8 @@ QRectF ArcGauge::paintNote(QPainter &painter) const {
     const QColor tint = current && cautious() ? style::tone(colour::kCaution)
                                               : style::tone(current ? colour::kText : colour::kStale, 0.9);
     const QFont usual = style::font(notePixels, QFont::Medium);
-    QFont font = fittingFont(usual, note, inner * 1.36);
+    // The smaller gauge's note stands between the ends of the arc.
+    QFont font = fittingFont(usual, note, inner * (hero ? 1.36 : 1.26));
     QRectF line(face_.centre.x() - inner, face_.centre.y() + inner * (hero ? 0.62 : 0.56), inner * 2.0,
                 notePixels * 1.5);
     if (!hero && font.pixelSize() < std::min(kLeastNote, usual.pixelSize())) {

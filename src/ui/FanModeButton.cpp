@@ -38,11 +38,11 @@ FanModeButton::FanModeButton(fan::FanMode mode, QWidget *parent) : QPushButton(p
 }
 
 void FanModeButton::setChosen(bool chosen) {
-    chosen_ = chosen;
-    const QString sheet = buttonStyle(mode_, chosen);
-    if (sheet != styleSheet()) {
-        setStyleSheet(sheet);
+    if (chosen == chosen_ && !styleSheet().isEmpty()) {
+        return; // asked for every second, and a style sheet is long
     }
+    chosen_ = chosen;
+    setStyleSheet(buttonStyle(mode_, chosen));
     retranslate();
 }
 

@@ -41,15 +41,14 @@ void FanSelector::setCustomSpeed(bool supported) {
 
 void FanSelector::showMode(FanMode mode) {
     mode_ = mode;
+    const bool known =
+        mode == FanMode::Silent || mode == FanMode::Performance || (mode == FanMode::Custom && customSpeed_);
+    const FanMode shown = known ? mode : FanMode::ZeroFan;
+    // Each once: one that is taken back and chosen again would be styled anew, every second.
     for (const FanMode each : kFixedModes) {
-        button(each)->setChosen(false);
+        button(each)->setChosen(each == shown);
     }
-    const bool custom = mode == FanMode::Custom && customSpeed_;
-    button(FanMode::Custom)->setChosen(custom);
-    if (!custom) {
-        const bool known = mode == FanMode::Silent || mode == FanMode::Performance;
-        button(known ? mode : FanMode::ZeroFan)->setChosen(true);
-    }
+    button(FanMode::Custom)->setChosen(shown == FanMode::Custom);
 }
 
 void FanSelector::functionSelected() {
