@@ -2196,5 +2196,13 @@ Solange das Netzteil verbunden ist, wird jede Minute aufgezeichnet; der heutige 
         <source></source>
         <translation>Nein</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <translation>U/min</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <translation>U/min</translation>
+    </message>
 </context>
 </TS>

@@ -2426,5 +2426,15 @@ While the supply is connected every minute is recorded, and today’s bar appear
         <extracomment>answer to "Reset all of it?"</extracomment>
         <translation>No</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <extracomment>The unit of the fan's speed: revolutions a minute, after or below the figure</extracomment>
+        <translation>rpm</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <extracomment>The same unit in the pop-up of the custom speed, after a large figure</extracomment>
+        <translation>RPM</translation>
+    </message>
 </context>
 </TS>

@@ -2196,5 +2196,13 @@ Tant que l’alimentation est connectée, chaque minute est enregistrée et la b
         <source></source>
         <translation>Non</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <translation>tr/min</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <translation>tr/min</translation>
+    </message>
 </context>
 </TS>

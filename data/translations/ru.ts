@@ -2196,5 +2196,13 @@
         <source></source>
         <translation>Нет</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <translation>об/мин</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <translation>об/мин</translation>
+    </message>
 </context>
 </TS>

@@ -2196,5 +2196,13 @@ Mientras la fuente está conectada se registra cada minuto, y la barra de hoy ap
         <source></source>
         <translation>No</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <translation>rpm</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <translation>RPM</translation>
+    </message>
 </context>
 </TS>

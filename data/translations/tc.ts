@@ -2196,5 +2196,13 @@
         <source></source>
         <translation>否</translation>
     </message>
+    <message id="FAN_RPM">
+        <source></source>
+        <translation>rpm</translation>
+    </message>
+    <message id="FAN_TARGET_RPM">
+        <source></source>
+        <translation>RPM</translation>
+    </message>
 </context>
 </TS>

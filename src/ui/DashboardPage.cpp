@@ -274,7 +274,15 @@ void DashboardPage::setDemo(bool demo) { banner_->setDemo(demo); }
 
 void DashboardPage::setRemedy(const QString &command) { banner_->setRemedy(command); }
 
-void DashboardPage::setContentEnabled(bool enabled) { content_->setEnabled(enabled); }
+void DashboardPage::setContentEnabled(bool enabled) {
+    for (ArcGauge *gauge : {output_, efficiency_, temperature_, fan_, input_}) {
+        gauge->setEnabled(enabled);
+    }
+    for (RailCard *rail : rails_) {
+        rail->setEnabled(enabled);
+    }
+    // What was used, and what the PC's own sensors say, is there without a supply.
+}
 
 void DashboardPage::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);

@@ -55,7 +55,7 @@ public:
     [[nodiscard]] TrendPanel *trends() const { return trends_; }
     /// Puts a banner between the connection's and the figures; the page owns it then. To be called once.
     void setAlarmBanner(QWidget *banner);
-    /// Disables everything but the banners.
+    /// Disables the figures of the supply while it is not there.
     void setContentEnabled(bool enabled);
 
 signals:
