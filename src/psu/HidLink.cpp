@@ -69,9 +69,11 @@ HidLink::~HidLink() {
 }
 
 void HidLink::submit(const std::shared_ptr<LinkJob> &job) {
-    const std::lock_guard lock(core_->mutex);
-    core_->queue.push_back(job);
-    core_->work.notify_one();
+    {
+        const std::lock_guard lock(core_->mutex);
+        core_->queue.push_back(job);
+    }
+    core_->work.notify_one(); // a thread that wakes to a lock that is held goes to sleep once more
 }
 
 bool HidLink::wait(const std::shared_ptr<LinkJob> &job, std::chrono::milliseconds patience) {
@@ -108,10 +110,12 @@ void HidLink::run(const std::shared_ptr<Core> &core) {
             continue;
         }
         job->finished_ = true;
-        core->done.notify_all();
         if (job->watched_ && core->lateFinish) {
             core->lateFinish();
         }
+        lock.unlock();
+        core->done.notify_all();
+        lock.lock();
     }
     core->queue.clear();
     core->ended = true;

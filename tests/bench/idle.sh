@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # What the program costs while nobody does anything: the share of one core over a while, and resident memory, with the
-# supply polled every second. Prints one line for the window shown and one for the window hidden.
-#   idle.sh PROGRAM [SECONDS]
+# supply polled every second. Prints one line for the window shown, one for the window hidden, and the memory after all
+# pages were opened.
+#   idle.sh PROGRAM [SECONDS] [MODEL]
 set -euo pipefail
-program=${1:?usage: idle.sh PROGRAM [SECONDS]}
+program=${1:?usage: idle.sh PROGRAM [SECONDS] [MODEL]}
 seconds=${2:-60}
+demo=--demo${3:+=$3}
 home=$(mktemp -d)
 trap 'kill ${pid:-} ${server:-} 2>/dev/null || true; rm -rf "$home"' EXIT
 export XDG_RUNTIME_DIR=$home
@@ -30,13 +32,20 @@ measure() { # NAME
         'BEGIN { printf "%-8s %5.2f %% of one core, %5.1f MB resident, over %d s\n", name, 100 * used / hz / s, kb / 1024, s }'
 }
 
-"$program" --demo --data-dir "$home/data" &
+"$program" "$demo" --data-dir "$home/data" &
 pid=$!
 until visible; do sleep 0.1; done
 measure shown
+# There is no window manager to give it the keyboard: the first click does.
+xdotool search --onlyvisible --name '^CorvaneZPSPOWER$' windowmove 0 0 mousemove 500 10 click 1 2>/dev/null
+for page in 2 3 4 5 6 7 1; do
+    xdotool mousemove 36 $((45 + 60 * page - 30)) click 1
+    sleep 0.5
+done
+awk '/VmRSS/ { printf "all pages opened: %.1f MB resident\n", $2 / 1024 }' "/proc/$pid/status"
 kill "$pid"
 wait "$pid"
-"$program" open --demo --data-dir "$home/data" &
+"$program" open "$demo" --data-dir "$home/data" &
 pid=$!
 until visible; do sleep 0.1; done
 while visible; do sleep 0.1; done
