@@ -76,7 +76,8 @@ SettingsFeed::SettingsFeed(Parts parts, ui::SettingsPage &page, QObject *parent)
     connect(&page_, &SettingsPage::mqttApplied, &parts_.remote, &RemoteServices::restartMqtt);
     connect(&page_, &SettingsPage::ratesRequested, this, &SettingsFeed::ratesRequested);
     connect(&page_, &SettingsPage::alarmsRequested, this, &SettingsFeed::alarmsRequested);
-    connect(&page_, &SettingsPage::openFolderRequested, this, &SettingsFeed::openFolder);
+    connect(&page_, &SettingsPage::openFolderRequested, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(parts_.dataDir)); });
     connect(&page_, &SettingsPage::exportRequested, this, &SettingsFeed::exportTo);
     connect(&page_, &SettingsPage::importRequested, this, &SettingsFeed::importFrom);
     connect(&page_, &SettingsPage::resetRequested, this, &SettingsFeed::reset);
@@ -187,8 +188,6 @@ void SettingsFeed::sensorsFailed() {
     sensorsFailed_ = true;
     showSensors();
 }
-
-void SettingsFeed::openFolder() { QDesktopServices::openUrl(QUrl::fromLocalFile(parts_.dataDir)); }
 
 void SettingsFeed::exportTo(const QString &path) {
     QString why;

@@ -65,7 +65,6 @@ private:
     void take(ui::SettingField field, const QVariant &value);
     void apply(ui::SettingField field);
     void applyAll();
-    void openFolder();
     void exportTo(const QString &path);
     void importFrom(const QString &path);
     void reset();
