@@ -103,7 +103,8 @@ TEST(HidSearchTest, KeepsThreeHandlesOfTheFirstThatOpensAndNoOther) {
 }
 
 TEST(RunCommandTest, IsQuotedWithBackslashes) {
-    EXPECT_EQ(runCommand(L"C:/Program Files/ZPS G/zpsg.exe", true), LR"("C:\Program Files\ZPS G\zpsg.exe" open)");
+    EXPECT_EQ(runCommand(L"C:/Program Files/ZPS G/zpsg.exe", true),
+              LR"("C:\Program Files\ZPS G\zpsg.exe" open)");
 }
 
 } // namespace
