@@ -27,10 +27,10 @@ QString sheet(qreal scale) {
     return QStringLiteral("QComboBox { padding: 0 0 0 4px; }"
                           "QComboBox::drop-down { border: none; width: %1px; }"
                           "QComboBox QLineEdit { background: transparent; border: none; padding: 0;"
-                          " color: rgb(243,245,247); selection-background-color: rgb(32,116,214); }"
+                          " color: rgb(243,245,247); selection-background-color: rgb(30,110,204); }"
                           "QComboBox QAbstractItemView { color: rgb(243,245,247); }"
                           "QComboBox QAbstractItemView::item { min-height: %2px; padding: 0 6px; }"
-                          "QComboBox QAbstractItemView::item:selected { background: rgb(32,116,214); }")
+                          "QComboBox QAbstractItemView::item:selected { background: rgb(30,110,204); }")
         .arg(qRound(kArrow * scale))
         .arg(qRound(24.0 * scale));
 }

@@ -20,7 +20,7 @@ QString sheet(qreal scale) {
     return QStringLiteral(
                "QSpinBox { color: rgb(243,245,247); background: rgba(255,255,255,18);"
                " border: 1px solid rgba(255,255,255,40); border-radius: 6px; padding: 0 0 0 6px;"
-               " selection-background-color: rgb(32,116,214); selection-color: white; }"
+               " selection-background-color: rgb(30,110,204); selection-color: white; }"
                "QSpinBox:hover { background: rgba(255,255,255,32); }"
                "QSpinBox:focus { border-color: rgb(61,202,242); }"
                "QSpinBox:disabled { color: rgb(118,125,133); background: transparent; }"

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <array>
 
 namespace zpsg::ui {
 namespace {
@@ -168,11 +169,17 @@ void HistoryHead::showRange() {
     fitTitle();
 }
 
-// The title gives way where the two dates of a range need its room; the navigation has the name as well.
+// The title gives way where the two dates of a range need its room, as the navigation has the name as well;
+// then the way to today, which the end of the range has too.
 void HistoryHead::fitTitle() {
-    title_->show();
-    layout_->invalidate();
-    title_->setVisible(layout_->minimumSize().width() <= width());
+    const std::array<QWidget *, 2> spare{title_, todayButton_};
+    for (QWidget *widget : spare) {
+        widget->show();
+    }
+    for (QWidget *widget : spare) {
+        layout_->invalidate();
+        widget->setVisible(layout_->minimumSize().width() <= width());
+    }
 }
 
 void HistoryHead::resizeEvent(QResizeEvent *event) {

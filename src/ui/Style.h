@@ -22,13 +22,13 @@ inline constexpr QRgb kCardEdge = qRgba(255, 255, 255, 22);
 inline constexpr QRgb kText = qRgb(243, 245, 247);
 inline constexpr QRgb kTextSecondary = qRgb(172, 180, 189);
 /// 4.5:1 on a card, the least that small text may have.
-inline constexpr QRgb kTextTertiary = qRgb(134, 143, 153);
+inline constexpr QRgb kTextTertiary = qRgb(136, 145, 155);
 /// Values that are not current, and everything that is disabled.
 inline constexpr QRgb kStale = qRgb(118, 125, 133);
 inline constexpr QRgb kTrack = qRgb(47, 52, 58);
 inline constexpr QRgb kGrid = qRgba(255, 255, 255, 18);
 inline constexpr QRgb kAccent = qRgb(61, 202, 242);
-inline constexpr QRgb kAccentDeep = qRgb(32, 116, 214);
+inline constexpr QRgb kAccentDeep = qRgb(30, 110, 204);
 inline constexpr QRgb kGood = qRgb(86, 211, 143);
 inline constexpr QRgb kCaution = qRgb(255, 193, 77);
 inline constexpr QRgb kDanger = qRgb(255, 112, 102);

@@ -251,6 +251,7 @@ TEST_P(TextFitTest, TheCountdown) {
 
 /// The languages differ where there is little room.
 class TextFitScreensTest : public TextFitTest {};
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(TextFitScreensTest);
 
 TEST_P(TextFitScreensTest, EveryPage) {
     for (const QSize size : {QSize(1366, 768), QSize(3840, 2160)}) {
