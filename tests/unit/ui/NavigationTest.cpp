@@ -104,7 +104,7 @@ TEST_F(NavigationTest, SevenPagesFitTheLeastWindow) {
         rail_->addPage(Icon::Bell, "NAV_DASHBOARD");
     }
     EXPECT_LE(rail_->minimumSizeHint().height(), 620 - 44);
-    EXPECT_LE(rail_->minimumSizeHint().width(), 72);
+    EXPECT_LE(rail_->minimumSizeHint().width(), 76);
 }
 
 } // namespace
