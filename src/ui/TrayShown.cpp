@@ -61,7 +61,7 @@ std::vector<Line> linesOf(const TrayShown &shown) {
         lines.push_back({named(qtTrId("MAIN_STR_TEMPERATURE"), degreesText(*shown.celsius)), 3});
     }
     if (shown.rpm) {
-        const QString speed = formatFigure(*shown.rpm, 0) + QStringLiteral("\u00A0rpm");
+        const QString speed = formatFigure(*shown.rpm, 0) + QChar(QChar::Nbsp) + qtTrId("FAN_RPM");
         lines.push_back({named(qtTrId("MAIN_STR_FAN"), speed), 2});
     }
     if (!shown.alarm.isEmpty()) {
