@@ -7,8 +7,8 @@ namespace zpsg::app {
 
 using fan::FanMode;
 
-TrayFeed::TrayFeed(Parts parts, Tray &tray, QObject *parent)
-    : QObject(parent), parts_(std::move(parts)), tray_(tray) {
+TrayFeed::TrayFeed(const Parts &parts, Tray &tray, QObject *parent)
+    : QObject(parent), parts_(parts), tray_(tray) {
     connect(&tray_, &Tray::fanModeChosen, this, &TrayFeed::chooseMode);
     connect(&tray_, &Tray::lightsToggled, this, &TrayFeed::switchLights);
     connect(&parts_.fan, &FanControl::changed, this, &TrayFeed::tick);

@@ -23,7 +23,7 @@ public:
         Settings &settings;
     };
 
-    TrayFeed(Parts parts, Tray &tray, QObject *parent = nullptr);
+    TrayFeed(const Parts &parts, Tray &tray, QObject *parent = nullptr);
 
     /// Once a second, and when something was chosen.
     void tick();
