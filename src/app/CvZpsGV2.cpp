@@ -204,7 +204,6 @@ void CvZpsGV2::startTimers() {
     addTimer(60000, &CvZpsGV2::slotsTimePass);
     if (settings_.flag(Setting::SensorsEnabled)) {
         settingsFeed_->readSensors(true);
-        pcFeed_->showState();
     }
 }
 
@@ -232,11 +231,6 @@ void CvZpsGV2::saveData() {
     if (monitor().hasReading() && monitor().state() == psu::LinkState::Live) {
         recorder_.saveData(monitor().record(), monitor().serialText(), rowFields(sensors_.reading()), now());
     }
-}
-
-QString CvZpsGV2::serialNumber() const {
-    const auto &monitor = supply_.monitor();
-    return monitor.noSerial() ? settings_.text(Setting::SelfFilledInSerial) : monitor.serialText();
 }
 
 void CvZpsGV2::startFastClock(int factor) {

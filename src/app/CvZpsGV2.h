@@ -121,7 +121,7 @@ public slots:
     void logoutFrameEvent() {}
     void saveData();
     void getNextDailySettlement() { recorder_.getNextDailySettlement(now()); }
-    void checkUploadState() { uploader_.checkUploadState(serialNumber()); }
+    void checkUploadState() { uploader_.checkUploadState(serialNumber(supply_, settings_)); }
     void changeLanguage() { appearance_.changeLanguage(); }
     void resetLanguage();
     void ClockTick();
@@ -220,7 +220,6 @@ private:
     void takeSample();
     void startFastClock(int factor);
     void passFastMinute();
-    [[nodiscard]] QString serialNumber() const;
     [[nodiscard]] QDateTime now() const {
         return fastClock_ ? fastClock_->now() : QDateTime::currentDateTime();
     }

@@ -173,7 +173,9 @@ void SettingsFeed::alignAutostart() {
 
 void SettingsFeed::readSensors(bool on) {
     sensorsFailed_ = false;
-    parts_.settings.write({{Setting::SensorsEnabled, on}});
+    if (on != parts_.settings.flag(Setting::SensorsEnabled)) { // mostly it stands there already
+        parts_.settings.write({{Setting::SensorsEnabled, on}});
+    }
     page_.setValue(SettingField::Sensors, on);
     if (on) {
         parts_.sensors.start();

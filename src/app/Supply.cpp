@@ -1,6 +1,7 @@
 #include "app/Supply.h"
 
 #include "app/Logging.h"
+#include "app/Settings.h"
 
 namespace zpsg::app {
 
@@ -70,6 +71,11 @@ void Supply::recognise() {
                              << profile.fanLighting << profile.customFanSpeed << profile.addressableLeds
                              << profile.seriesCode << profile.seriesNumber;
     emit profileChanged();
+}
+
+QString serialNumber(const Supply &supply, const Settings &settings) {
+    const auto &monitor = supply.monitor();
+    return monitor.noSerial() ? settings.text(Setting::SelfFilledInSerial) : monitor.serialText();
 }
 
 } // namespace zpsg::app

@@ -10,6 +10,8 @@
 
 namespace zpsg::app {
 
+class Settings;
+
 /// GUI thread only.
 class Supply : public QObject {
     Q_OBJECT
@@ -54,5 +56,8 @@ private:
     psu::SupplyMonitor monitor_;
     bool identified_ = false;
 };
+
+/// The supply's own serial number, or the one that its owner has filled in where it tells none.
+[[nodiscard]] QString serialNumber(const Supply &supply, const Settings &settings);
 
 } // namespace zpsg::app

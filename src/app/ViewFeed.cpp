@@ -61,13 +61,12 @@ void ViewFeed::showLinkState() {
 void ViewFeed::showSupply() {
     using Link = ui::AboutSupply::Link;
     const auto &monitor = supply_.monitor();
-    view_.about()->setSupply(
-        {monitor.modelText(), static_cast<double>(supply_.profile().ratedWatts),
-         monitor.noSerial() ? settings_.text(Setting::SelfFilledInSerial) : monitor.serialText(),
-         !supply_.present()         ? Link::None
-         : demo_                    ? Link::Demo
-         : monitor.rawPathPresent() ? Link::Raw
-                                    : Link::Main});
+    view_.about()->setSupply({monitor.modelText(), static_cast<double>(supply_.profile().ratedWatts),
+                              serialNumber(supply_, settings_),
+                              !supply_.present()         ? Link::None
+                              : demo_                    ? Link::Demo
+                              : monitor.rawPathPresent() ? Link::Raw
+                                                         : Link::Main});
 }
 
 void ViewFeed::showProfile() {

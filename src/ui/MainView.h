@@ -50,8 +50,8 @@ public:
     void showPage(Page page);
     [[nodiscard]] Page page() const;
 
-    /// Disables the dashboard while no supply is there. What says so, and what helps, stays usable; so do the
-    /// other pages.
+    /// Disables the dashboard's figures of the supply while it is not there. What says so, and what helps,
+    /// stays usable; so do the views below the figures and the other pages.
     void setMainEnabled(bool enabled);
 
     [[nodiscard]] QSize sizeHint() const override { return kDefaultSize; }

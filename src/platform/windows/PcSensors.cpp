@@ -7,7 +7,7 @@
 namespace zpsg::platform {
 namespace {
 
-// The names are part of the documented interface of HWiNFO's shared memory.
+// Under these names HWiNFO offers its readings to other programs.
 constexpr const wchar_t *kBlock = L"Global\\HWiNFO_SENS_SM2";
 constexpr const wchar_t *kMutex = L"Global\\HWiNFO_SM2_MUTEX";
 constexpr DWORD kPatience = 20;                                // milliseconds
