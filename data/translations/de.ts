@@ -2204,5 +2204,105 @@ Solange das Netzteil verbunden ist, wird jede Minute aufgezeichnet; der heutige 
         <source></source>
         <translation>U/min</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1, neue Version verfügbar</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>ZPS G %1 ist verfügbar</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>Die Seite „Info“ zeigt, was neu ist, und führt zum Download. Heruntergeladen wurde nichts.</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>Version %1 ist verfügbar</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>Sie verwenden Version %1.</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>Download-Seite öffnen</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>Öffnet im Browser: %1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>Geben Sie eine Adresse ein, die mit https:// beginnt und keinen Benutzernamen enthält.</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>Die Verbindung zu %1 ist nicht sicher, daher wurde nicht nachgefragt.</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>%1 nennt unter dieser Adresse keine neueste Version.</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1 antwortet nicht.</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>Version %1 ist verfügbar. Die Seite „Info“ führt dorthin.</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>Sie haben die neueste Version, %1.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>Updates</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>Neue Versionen von ZPS G</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>Sie erhalten nur einen Hinweis: Von selbst wird nichts heruntergeladen oder installiert.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>Neue Versionen melden</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>Fragt einmal täglich unter der Adresse nach. Übermittelt wird nur die Nummer dieser Version.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>Dort steht, welche Version die neueste ist; beginnt mit https://. Leer: keine Nachfrage.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>Von Hand prüfen</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>Fragt einmal nach, auch bei ausgeschaltetem Schalter.</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>Jetzt prüfen</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>Adresse erforderlich.</translation>
+    </message>
 </context>
 </TS>

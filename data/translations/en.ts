@@ -2436,5 +2436,130 @@ While the supply is connected every minute is recorded, and today’s bar appear
         <extracomment>The same unit in the pop-up of the custom speed, after a large figure</extracomment>
         <translation>RPM</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <extracomment>spoken for a page of the navigation with a dot at its sign; %1 is the page's name</extracomment>
+        <translation>%1, a newer version is available</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <extracomment>title of a message of the tray; %1 is a version such as 1.2.0</extracomment>
+        <translation>ZPS G %1 is available</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <extracomment>below the title; a click on the message opens the About page</extracomment>
+        <translation>The “About” page says what is new and leads to the download. Nothing has been downloaded.</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <extracomment>headline on the About page; %1 is a version such as 1.2.0</extracomment>
+        <translation>Version %1 is available</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <extracomment>below that headline</extracomment>
+        <translation>You are using version %1.</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <extracomment>a button; opens a web page in the browser</extracomment>
+        <translation>Open the download page</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <extracomment>tip of that button; %1 is the address of the page</extracomment>
+        <translation>Opens in the browser: %1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <extracomment>below the entry of an address</extracomment>
+        <translation>Write an address that begins with https://, without a user name in it.</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <extracomment>how a check for a newer version ended; %1 is a computer's name</extracomment>
+        <translation>The connection to %1 is not safe, so nothing was asked.</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <extracomment>how a check for a newer version ended; %1 is a computer's name</extracomment>
+        <translation>%1 does not say at this address which version is the newest.</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <extracomment>how a check for a newer version ended; %1 is a computer's name</extracomment>
+        <translation>%1 does not answer.</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <extracomment>while a check for a newer version goes on</extracomment>
+        <translation>Checking…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <extracomment>how a check for a newer version ended; "About" is the page's name</extracomment>
+        <translation>Version %1 is available. The “About” page leads to it.</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <extracomment>how a check for a newer version ended</extracomment>
+        <translation>You have the newest version, %1.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <extracomment>a section of the settings</extracomment>
+        <translation>Updates</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <extracomment>title of a card</extracomment>
+        <translation>New versions of ZPS G</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <extracomment>below that title</extracomment>
+        <translation>You are only told of them: nothing is downloaded or installed by itself.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <extracomment>name of a row with a switch</extracomment>
+        <translation>Tell me about new versions</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <extracomment>about the switch</extracomment>
+        <translation>Asks the address below once a day. All it sends is the number of this version.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <extracomment>name of a row with an entry</extracomment>
+        <translation>Address</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <extracomment>about the entry</extracomment>
+        <translation>Where the newest version is announced; begins with https://. Empty: nothing is asked.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <extracomment>name of a row with the button "Check now"</extracomment>
+        <translation>Check by hand</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <extracomment>about that button</extracomment>
+        <translation>Asks the address once, also while the switch is off.</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <extracomment>a button: look for a newer version</extracomment>
+        <translation>Check now</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <extracomment>why a row is disabled: the entry "Address" is empty</extracomment>
+        <translation>Needs an address.</translation>
+    </message>
 </context>
 </TS>

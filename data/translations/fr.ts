@@ -2204,5 +2204,105 @@ Tant que l’alimentation est connectée, chaque minute est enregistrée et la b
         <source></source>
         <translation>tr/min</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1, nouvelle version disponible</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>ZPS G %1 est disponible</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>La page « À propos » présente les nouveautés et mène au téléchargement. Rien n’a été téléchargé.</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>La version %1 est disponible</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>Vous utilisez la version %1.</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>Ouvrir la page de téléchargement</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>S’ouvre dans le navigateur : %1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>Indiquez une adresse qui commence par https:// et ne contient pas de nom d’utilisateur.</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>La connexion à %1 n’est pas sûre : rien n’a été demandé.</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>%1 n’indique pas à cette adresse quelle version est la plus récente.</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1 ne répond pas.</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>Vérification…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>La version %1 est disponible. La page « À propos » y mène.</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>Vous avez la version la plus récente, %1.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>Nouvelles versions de ZPS G</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>Elles sont seulement signalées : rien n’est téléchargé ni installé automatiquement.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>Signaler les nouvelles versions</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>Interroge l’adresse ci-dessous une fois par jour. Seul le numéro de cette version est transmis.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>Là où la dernière version est annoncée ; commence par https://. Vide : aucune demande.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>Vérification manuelle</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>Interroge l’adresse une fois, même si l’interrupteur est désactivé.</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>Vérifier</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>Adresse requise.</translation>
+    </message>
 </context>
 </TS>

@@ -2204,5 +2204,105 @@
         <source></source>
         <translation>RPM</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1、新しいバージョンがあります</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>ZPS G %1が利用できます</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>変更点とダウンロード先は「情報」ページにあります。まだ何もダウンロードしていません。</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>バージョン%1が利用できます</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>現在のバージョンは%1です。</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>ダウンロードページを開く</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>ブラウザーで開きます：%1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>https://で始まり、ユーザー名を含まないアドレスを入力してください。</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>%1への接続が安全でないため、問い合わせを中止しました。</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>%1のこのアドレスには、最新バージョンの情報がありません。</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1から応答がありません。</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>確認中…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>バージョン%1が利用できます。「情報」ページから入手できます。</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>最新バージョン%1をお使いです。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>アップデート</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>ZPS Gの新しいバージョン</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>お知らせするだけで、自動でダウンロードやインストールを行うことはありません。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>新しいバージョンを知らせる</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>下のアドレスに1日1回問い合わせます。送信するのはこのバージョン番号だけです。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>アドレス</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>最新バージョンの発表先。https://で始まります。空欄なら問い合わせません。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>手動で確認</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>スイッチがオフでも、アドレスに1回問い合わせます。</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>今すぐ確認</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>アドレスが必要です。</translation>
+    </message>
 </context>
 </TS>

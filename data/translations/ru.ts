@@ -2204,5 +2204,105 @@
         <source></source>
         <translation>об/мин</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1, доступна новая версия</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>Доступна версия ZPS G %1</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>На странице «О программе» указано, что нового и где её скачать. Ничего не загружено.</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>Доступна версия %1</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>Сейчас используется версия %1.</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>Открыть страницу загрузки</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>Откроется в браузере: %1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>Введите адрес, который начинается с https:// и не содержит имени пользователя.</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>Соединение с %1 небезопасно, поэтому запрос не отправлен.</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>По этому адресу %1 не сообщает, какая версия самая новая.</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1 не отвечает.</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>Проверка…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>Доступна версия %1. Перейти к ней можно со страницы «О программе».</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>У вас самая новая версия, %1.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>Обновления</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>Новые версии ZPS G</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>Программа только сообщает о них: сама она ничего не загружает и не устанавливает.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>Сообщать о новых версиях</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>Раз в день обращается по адресу ниже. Передаётся только номер этой версии.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>Адрес</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>Где объявляется новейшая версия; начинается с https://. Пусто: без запросов.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>Проверка вручную</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>Один запрос по адресу, даже если переключатель выключен.</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>Проверить</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>Нужен адрес.</translation>
+    </message>
 </context>
 </TS>

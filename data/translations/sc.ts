@@ -2204,5 +2204,105 @@
         <source></source>
         <translation>RPM</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1，有新版本</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>ZPS G %1 已发布</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>“关于”页面列出更新内容和下载位置。尚未下载任何内容。</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>版本 %1 已发布</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>当前使用的是版本 %1。</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>打开下载页面</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>在浏览器中打开：%1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>请输入以 https:// 开头且不含用户名的地址。</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>与 %1 的连接不安全，因此未进行查询。</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>%1 在此地址未提供最新版本的信息。</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1 没有响应。</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>正在检查…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>版本 %1 已发布。可从“关于”页面获取。</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>您使用的已是最新版本 %1。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>更新</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>ZPS G 的新版本</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>仅发出通知，不会自动下载或安装任何内容。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>有新版本时通知</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>每天向下面的地址查询一次。仅发送当前的版本号。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>地址</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>发布最新版本信息的位置，以 https:// 开头。留空则不查询。</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>手动检查</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>查询一次，开关关闭时也可以。</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>立即检查</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>需要地址。</translation>
+    </message>
 </context>
 </TS>

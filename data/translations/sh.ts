@@ -2204,5 +2204,105 @@ Mientras la fuente está conectada se registra cada minuto, y la barra de hoy ap
         <source></source>
         <translation>RPM</translation>
     </message>
+    <message id="NAV_UPDATE">
+        <source></source>
+        <translation>%1, hay una versión nueva</translation>
+    </message>
+    <message id="TRAYICON_UPDATE">
+        <source></source>
+        <translation>ZPS G %1 está disponible</translation>
+    </message>
+    <message id="TRAYICON_UPDATE_HINT">
+        <source></source>
+        <translation>La página «Acerca de» indica las novedades y lleva a la descarga. No se ha descargado nada.</translation>
+    </message>
+    <message id="UPDATE_STR_AVAILABLE">
+        <source></source>
+        <translation>La versión %1 está disponible</translation>
+    </message>
+    <message id="UPDATE_STR_RUNNING">
+        <source></source>
+        <translation>Está usando la versión %1.</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN">
+        <source></source>
+        <translation>Abrir la página de descarga</translation>
+    </message>
+    <message id="UPDATE_STR_OPEN_HINT">
+        <source></source>
+        <translation>Se abre en el navegador: %1</translation>
+    </message>
+    <message id="UPDATE_STR_BAD_ADDRESS">
+        <source></source>
+        <translation>Escriba una dirección que empiece por https:// y no contenga un nombre de usuario.</translation>
+    </message>
+    <message id="UPDATE_STR_INSECURE">
+        <source></source>
+        <translation>La conexión con %1 no es segura, así que no se ha consultado nada.</translation>
+    </message>
+    <message id="UPDATE_STR_NO_VERSION">
+        <source></source>
+        <translation>%1 no indica en esta dirección cuál es la versión más reciente.</translation>
+    </message>
+    <message id="UPDATE_STR_UNREACHABLE">
+        <source></source>
+        <translation>%1 no responde.</translation>
+    </message>
+    <message id="UPDATE_STR_ASKING">
+        <source></source>
+        <translation>Comprobando…</translation>
+    </message>
+    <message id="UPDATE_STR_FOUND">
+        <source></source>
+        <translation>La versión %1 está disponible. La página «Acerca de» lleva a ella.</translation>
+    </message>
+    <message id="UPDATE_STR_NEWEST">
+        <source></source>
+        <translation>Tiene la versión más reciente, la %1.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES">
+        <source></source>
+        <translation>Actualizaciones</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS">
+        <source></source>
+        <translation>Nuevas versiones de ZPS G</translation>
+    </message>
+    <message id="SETTING_STR_NEW_VERSIONS_HINT">
+        <source></source>
+        <translation>Solo se le avisa: nada se descarga ni se instala por sí solo.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON">
+        <source></source>
+        <translation>Avisar de nuevas versiones</translation>
+    </message>
+    <message id="SETTING_STR_UPDATES_ON_HINT">
+        <source></source>
+        <translation>Consulta la dirección de abajo una vez al día. Solo envía el número de esta versión.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS">
+        <source></source>
+        <translation>Dirección</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_ADDRESS_HINT">
+        <source></source>
+        <translation>Donde se anuncia la última versión; empieza por https://. Vacío: no se consulta.</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK">
+        <source></source>
+        <translation>Comprobación manual</translation>
+    </message>
+    <message id="SETTING_STR_UPDATE_CHECK_HINT">
+        <source></source>
+        <translation>Consulta la dirección una vez, aunque el interruptor esté apagado.</translation>
+    </message>
+    <message id="SETTING_STR_CHECK_NOW">
+        <source></source>
+        <translation>Comprobar</translation>
+    </message>
+    <message id="SETTING_STR_NEEDS_ADDRESS">
+        <source></source>
+        <translation>Requiere una dirección.</translation>
+    </message>
 </context>
 </TS>

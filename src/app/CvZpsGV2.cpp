@@ -10,6 +10,7 @@
 #include "app/SettingsFeed.h"
 #include "app/SocketWiring.h"
 #include "app/TrayFeed.h"
+#include "app/UpdateFeed.h"
 #include "app/ViewFeed.h"
 #include "app/WindowMemory.h"
 #include "platform/DeviceAccess.h"
@@ -70,7 +71,7 @@ CvZpsGV2::CvZpsGV2(WindowParts parts, QWidget *parent)
         startFastClock(parts.fastClockFactor);
     }
     saveData();
-    settingsFeed_->alignAutostart();
+    settingsFeed_->takeUpAutostart();
     if (!demo_) {
         platform::sendToWindow(platform::kCompanionWindowTitle, {platform::kCompanionNotice, 0, 0},
                                kCompanionPatience);
@@ -192,6 +193,8 @@ void CvZpsGV2::createFeeds() {
     trayFeed_ = new TrayFeed({supply_, alarms_, fan_, lighting_, settings_}, *tray_, this);
     connect(trayFeed_, &TrayFeed::speedWanted, this, &CvZpsGV2::showAgain);
     connect(trayFeed_, &TrayFeed::speedWanted, this, &CvZpsGV2::popUpFanModel);
+    auto *updates = new UpdateFeed({settings_, *tray_, !demo_}, *view_, this);
+    connect(settingsFeed_, &SettingsFeed::changed, updates, &UpdateFeed::takeSettings);
 }
 
 void CvZpsGV2::startTimers() {

@@ -21,6 +21,13 @@ bool isWritable(const QString &directory, QString *why = nullptr) {
     return false;
 }
 
+/// The setup leaves its list of files beside the program. A user may write there when it was installed for
+/// that user alone, but what is recorded doesn't belong among files that an update replaces and a removal
+/// takes.
+bool isInstalled(const QString &applicationDir) {
+    return QDir(applicationDir).exists(QStringLiteral("installed.ini"));
+}
+
 QString resourcesBeside(const QString &applicationDir) {
     const QDir directory(applicationDir);
     if (directory.exists(QStringLiteral("Language"))) {
@@ -39,7 +46,8 @@ std::optional<Paths> findPaths(const QString &executable, const std::optional<QS
     paths.resources = resourcesBeside(applicationDir);
     if (dataDir) {
         paths.data = QFileInfo(*dataDir).absoluteFilePath();
-    } else if (paths.resources == applicationDir && isWritable(applicationDir)) {
+    } else if (paths.resources == applicationDir && !isInstalled(applicationDir) &&
+               isWritable(applicationDir)) {
         paths.data = applicationDir;
     } else {
         paths.data =

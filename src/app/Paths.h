@@ -17,9 +17,10 @@ struct Paths {
 };
 
 /// Decides both. `dataDir`, when given, is used as it is and created when missing; otherwise the data
-/// directory is the application's own when what ships stands beside it and it is writable (portable use),
-/// else the user's application-data directory. `demo` moves it to the folder "demo" below. Nothing, and
-/// `error` in plain words, when the directory can't be written.
+/// directory is the application's own when what ships stands beside it, no setup has put it there
+/// (docs/files.md) and it is writable (portable use), else the user's application-data directory. `demo`
+/// moves it to the folder "demo" below. Nothing, and `error` in plain words, when the directory can't be
+/// written.
 std::optional<Paths> findPaths(const QString &executable, const std::optional<QString> &dataDir, bool demo,
                                QString &error);
 

@@ -17,11 +17,14 @@ QString seededDatabase(const QString &dataDir, const QString &resourceDir) {
         // A copy under another name first: a program that is killed on the way leaves no half database.
         const QString draft = path + QStringLiteral(".new");
         QFile::remove(draft);
-        if (QFile::copy(resourceDir + name, draft)) {
+        // Where both folders are one, the history must not be a file that a newer version brings along.
+        const QString beside = resourceDir + QStringLiteral("/empty.db");
+        const QString empty = QFile::exists(beside) ? beside : resourceDir + name;
+        if (QFile::copy(empty, draft)) {
             QFile::setPermissions(draft, QFile::permissions(draft) | QFile::ReadOwner | QFile::WriteOwner);
             QFile::rename(draft, path);
         } else {
-            qCWarning(lcApp).noquote() << "there is no history database" << resourceDir + name;
+            qCWarning(lcApp).noquote() << "there is no history database" << empty;
         }
     }
     return path;

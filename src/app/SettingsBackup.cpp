@@ -24,7 +24,8 @@ bool isPreference(Setting id) {
         Setting::RecFileNumber,  Setting::RecFiledayNumber, Setting::UploadedFile,
         Setting::DayWatts,       Setting::DayDate,          Setting::AccountKey,
         Setting::MqttPassword,   Setting::DuoWritten,       Setting::WindowPage,
-        Setting::FanDataWritten,
+        Setting::FanDataWritten, Setting::UpdateNext,       Setting::UpdateTold,
+        Setting::UpdateFound,
     };
     return std::find(kOthers.begin(), kOthers.end(), id) == kOthers.end();
 }

@@ -53,6 +53,8 @@ constexpr std::array kRows{
     Row{SettingField::MqttDiscovery, Setting::MqttDiscovery},
     Row{SettingField::RemotePower, Setting::RemotePower},
     Row{SettingField::MetricsPort, Setting::MetricsPort},
+    Row{SettingField::UpdateEnabled, Setting::UpdateEnabled},
+    Row{SettingField::UpdateAddress, Setting::UpdateAddress},
 };
 
 constexpr bool rowsAreComplete() {
@@ -169,6 +171,16 @@ void SettingsFeed::alignAutostart() {
         qCWarning(lcApp) << "the autostart entry can't be set:" << error.c_str();
     }
     page_.setStatus(SettingStatus::Autostart, QString::fromStdString(error), true);
+}
+
+void SettingsFeed::takeUpAutostart() {
+    // Switching it off takes the entry away, so one that is there with the setting off comes from outside.
+    if (!parts_.settings.flag(Setting::Autostart) && !parts_.executable.empty() &&
+        platform::autostartStarts(parts_.executable)) {
+        parts_.settings.write({{Setting::Autostart, true}});
+        page_.setValue(SettingField::Autostart, true);
+    }
+    alignAutostart();
 }
 
 void SettingsFeed::readSensors(bool on) {

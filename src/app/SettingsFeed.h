@@ -48,6 +48,9 @@ public:
     void tick(const QDateTime &now);
     /// Brings the system's autostart entry in line.
     void alignAutostart();
+    /// The same when the program starts: an entry that starts this program switches the setting on, as the
+    /// setup makes one where the user wants it.
+    void takeUpAutostart();
     /// The sensors are read from now on, or not any more.
     void readSensors(bool on);
     void sensorsFailed();

@@ -113,6 +113,11 @@ enum class Setting {
     MqttDiscovery,
     RemotePower,
     MetricsPort,
+    UpdateEnabled,
+    UpdateAddress,
+    UpdateNext,
+    UpdateTold,
+    UpdateFound,
     Count,
 };
 
@@ -316,6 +321,14 @@ inline constexpr std::array kSettingsTable{
     // 0: no metrics
     SettingRow{Setting::MetricsPort, SettingsFile::General, "/Metrics/Port", SettingType::Integer, "0", 0,
                65535},
+    // Whether to ask for a newer version once a day, and where; without an address nothing is asked.
+    SettingRow{Setting::UpdateEnabled, SettingsFile::General, "/Update/Enabled", SettingType::Flag, "false"},
+    SettingRow{Setting::UpdateAddress, SettingsFile::General, "/Update/Address", SettingType::Text,
+               ZPSG_UPDATE_ADDRESS},
+    // when to ask again, as ISO 8601 in UTC; the version that the user was told of; the last answer, as JSON
+    SettingRow{Setting::UpdateNext, SettingsFile::General, "/Update/NextCheck", SettingType::Text, ""},
+    SettingRow{Setting::UpdateTold, SettingsFile::General, "/Update/Told", SettingType::Text, ""},
+    SettingRow{Setting::UpdateFound, SettingsFile::General, "/Update/Found", SettingType::Text, ""},
 };
 
 constexpr bool settingsTableIsComplete() {

@@ -20,7 +20,12 @@ Tray::Tray(const QIcon &icon, QObject *parent) : QObject(parent), modeGroup_(thi
     connect(&exit_, &QAction::triggered, this, &Tray::exitRequested);
     connect(&lights_, &QAction::triggered, this, &Tray::lightsToggled);
     connect(&icon_, &QSystemTrayIcon::activated, this, &Tray::activated);
-    connect(&icon_, &QSystemTrayIcon::messageClicked, this, &Tray::messageClicked);
+    connect(&icon_, &QSystemTrayIcon::messageClicked, this, [this] {
+        emit messageClicked();
+        if (toldUpdate_) {
+            emit updateClicked();
+        }
+    });
     tipDue_.setSingleShot(true);
     connect(&tipDue_, &QTimer::timeout, this, &Tray::showTip);
     icon_.setContextMenu(&menu_);
@@ -105,21 +110,29 @@ void Tray::showTip() {
     }
 }
 
+void Tray::tell(const QString &title, const QString &text, QSystemTrayIcon::MessageIcon sign) {
+    toldUpdate_ = false;
+    icon_.showMessage(title, text, sign);
+}
+
 void Tray::tellAlarm(const psu::AlarmEntry &entry) {
-    icon_.showMessage(ui::alarmTitle(entry.kind),
-                      ui::alarmValue(entry.kind, entry.value) + QLatin1Char('\n') +
-                          ui::alarmAdvice(entry.kind),
-                      QSystemTrayIcon::Warning);
+    tell(ui::alarmTitle(entry.kind),
+         ui::alarmValue(entry.kind, entry.value) + QLatin1Char('\n') + ui::alarmAdvice(entry.kind),
+         QSystemTrayIcon::Warning);
 }
 
 void Tray::tellRecordingFailed() {
-    icon_.showMessage(qtTrId("TRAYICON_NOT_RECORDED"), qtTrId("TRAYICON_NOT_RECORDED_HINT"),
-                      QSystemTrayIcon::Warning);
+    tell(qtTrId("TRAYICON_NOT_RECORDED"), qtTrId("TRAYICON_NOT_RECORDED_HINT"), QSystemTrayIcon::Warning);
 }
 
 void Tray::tellWhereItWent() {
-    icon_.showMessage(qtTrId("TRAYICON_GOES_ON"), qtTrId("TRAYICON_GOES_ON_HINT"),
-                      QSystemTrayIcon::Information);
+    tell(qtTrId("TRAYICON_GOES_ON"), qtTrId("TRAYICON_GOES_ON_HINT"), QSystemTrayIcon::Information);
+}
+
+void Tray::tellUpdate(const QString &version) {
+    tell(qtTrId("TRAYICON_UPDATE").arg(version), qtTrId("TRAYICON_UPDATE_HINT"),
+         QSystemTrayIcon::Information);
+    toldUpdate_ = true;
 }
 
 } // namespace zpsg::app

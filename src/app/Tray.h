@@ -35,6 +35,8 @@ public:
     void tellRecordingFailed();
     /// For the first time that closing the window leaves the program in the tray.
     void tellWhereItWent();
+    /// There is this version of the program.
+    void tellUpdate(const QString &version);
 
 signals:
     void launchRequested();
@@ -46,6 +48,8 @@ signals:
     void lightsToggled(bool on);
     /// The user went for a message.
     void messageClicked();
+    /// With the above, when the last message was about an update.
+    void updateClicked();
     void activated(QSystemTrayIcon::ActivationReason reason);
 
 private:
@@ -53,6 +57,7 @@ private:
     void showFanModes();
     void showLights();
     void showTip();
+    void tell(const QString &title, const QString &text, QSystemTrayIcon::MessageIcon sign);
 
     ui::TrayShown shown_;
     QMenu menu_;
@@ -65,6 +70,7 @@ private:
     QAction lights_;
     QAction exit_;
     QSystemTrayIcon icon_;
+    bool toldUpdate_ = false;          ///< by the last message
     std::optional<ui::TrayFace> face_; ///< as painted; nothing before the first
     QElapsedTimer sinceTip_;           ///< not started while no tip was set
     QTimer tipDue_;                    ///< runs while a tip waits for its second

@@ -19,4 +19,7 @@ bool setAutostart(Autostart mode, const std::string &executable, std::string &er
 /// Whether the entry is there now, whatever program it names.
 bool autostartEnabled();
 
+/// Whether it is there and starts this program, shown or hidden.
+bool autostartStarts(const std::string &executable);
+
 } // namespace zpsg::platform

@@ -113,13 +113,15 @@ AboutPage::AboutPage(int pages, QWidget *parent)
     , content_(new QWidget)
     , sign_(new Sign(content_))
     , head_(new PageHead(content_))
-    , copy_(new QPushButton(content_)) {
+    , copy_(new QPushButton(content_))
+    , update_(new UpdateNotice(content_)) {
     copy_->setObjectName(QStringLiteral("btnCopyDetails"));
     copy_->setCursor(Qt::PointingHandCursor);
     copied_.setSingleShot(true);
     copied_.setInterval(kConfirmMs);
     connect(copy_, &QPushButton::clicked, this, &AboutPage::copyDetails);
     connect(&copied_, &QTimer::timeout, this, &AboutPage::showButton);
+    connect(update_, &UpdateNotice::pageRequested, this, &AboutPage::updatePageRequested);
 
     const Section supply = addSection(QT_TRID_NOOP("ABOUT_STR_SUPPLY"));
     model_ = addRow(supply, QT_TRID_NOOP("ABOUT_STR_MODEL"));
@@ -215,6 +217,7 @@ void AboutPage::layOut() {
     column_.at(1)->addWidget(sections_.at(1).card, 1);
     auto *layout = new QVBoxLayout(content_);
     layout->addLayout(top_);
+    layout->addWidget(update_);
     layout->addLayout(columns_);
     layout->addStretch(1);
 
@@ -242,6 +245,7 @@ void AboutPage::applyScale() {
     const int side = qRound(kSignSide * scale);
     sign_->setFixedSize(side, side);
     head_->applyScale(scale);
+    update_->applyScale(scale);
     const QFont body = style::font(style::type::kBody * scale);
     const QFont caption = style::font(style::type::kBody * scale, QFont::DemiBold);
     for (const Section &section : sections_) {
@@ -273,6 +277,7 @@ void AboutPage::retranslate() {
         row.name->setText(qtTrId(row.key));
     }
     libraries_->setText(qtTrId("ABOUT_STR_LIBRARIES"));
+    update_->retranslate();
     showSupply();
     showKeys();
     showButton();
@@ -302,6 +307,8 @@ void AboutPage::showSupply() {
 
 // With slashes on Windows too: the system takes them as well, and a line can break after one.
 void AboutPage::setDataFolder(const QString &folder) { folder_->setText(QDir::fromNativeSeparators(folder)); }
+
+void AboutPage::setUpdate(const UpdateNews &news) { update_->showNews(news); }
 
 QString AboutPage::details() const {
     return QStringLiteral("ZPS G %1\nSupply: %2, %3, connection: %4\nBuild: %5\nSystem: %6, %7\n")

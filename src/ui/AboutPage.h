@@ -1,6 +1,8 @@
 // The page about the program: which supply it reads, what it is made of, where it keeps its files, its keys.
 #pragma once
 
+#include "ui/UpdateNotice.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -42,10 +44,16 @@ public:
 
     void setSupply(const AboutSupply &supply);
     void setDataFolder(const QString &folder);
+    /// Above all else, while there is a newer version; without one it is not there.
+    void setUpdate(const UpdateNews &news);
 
     /// What the button copies: model, rating and connection, and the versions. Neither the serial number nor
     /// the data folder, which may hold a name. In English whatever the language: it is for those who mend it.
     [[nodiscard]] QString details() const;
+
+signals:
+    /// The user wants to see the page of the newer version.
+    void updatePageRequested();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -85,6 +93,7 @@ private:
     Sign *sign_;
     PageHead *head_;
     QPushButton *copy_;
+    UpdateNotice *update_;
     std::vector<Section> sections_;
     std::vector<Row> rows_;
     QLabel *model_ = nullptr;

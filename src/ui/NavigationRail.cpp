@@ -23,6 +23,7 @@ constexpr int kButtonHeight = 60;
 constexpr qreal kIconSide = 22.0;
 constexpr qreal kIconTop = 10.0;
 constexpr qreal kLabelTop = 36.0;
+constexpr qreal kDotRadius = 5.0;
 
 /// Ctrl and the figure, 1 for the first page.
 QKeySequence shortcutOf(int page) { return {static_cast<int>(Qt::CTRL) | (Qt::Key_1 + page)}; }
@@ -50,10 +51,20 @@ public:
         }
     }
 
+    void setNotice(const char *textKey) {
+        if (textKey != noticeKey_) {
+            noticeKey_ = textKey;
+            retranslate();
+            update();
+        }
+    }
+
     void retranslate() {
         const QString name = qtTrId(textKey_);
         setText(name);
-        setAccessibleName(badge_ > 0 ? qtTrId("NAV_BADGE").arg(name).arg(badge_) : name);
+        setAccessibleName(badge_ > 0              ? qtTrId("NAV_BADGE").arg(name).arg(badge_)
+                          : noticeKey_ != nullptr ? qtTrId(noticeKey_).arg(name)
+                                                  : name);
         setToolTip(QStringLiteral("%1 (%2)").arg(accessibleName(),
                                                  shortcutOf(page_).toString(QKeySequence::NativeText)));
     }
@@ -89,6 +100,8 @@ protected:
         painter.drawText(label, Qt::AlignCenter, text());
         if (badge_ > 0) {
             paintBadge(painter, scale, sign.topRight());
+        } else if (noticeKey_ != nullptr) {
+            paintDot(painter, scale, sign.topRight());
         }
     }
 
@@ -131,10 +144,18 @@ private:
         font.drawCentred(painter, disc.center() + QPointF(0.0, font.digitHeight() / 2.0), figure);
     }
 
+    static void paintDot(QPainter &painter, qreal scale, const QPointF &at) {
+        const qreal radius = kDotRadius * scale;
+        painter.setPen(QPen(style::tone(colour::kWindowTop), 2.0 * scale));
+        painter.setBrush(style::tone(colour::kAccent));
+        painter.drawEllipse(at + QPointF(0.0, 2.0) * scale, radius, radius);
+    }
+
     Icon icon_;
     const char *textKey_;
     int page_;
     int badge_ = 0;
+    const char *noticeKey_ = nullptr;
 };
 
 NavigationRail::NavigationRail(QWidget *parent) : QWidget(parent), layout_(new QVBoxLayout(this)) {
@@ -175,6 +196,10 @@ void NavigationRail::setCurrent(int page) {
 
 void NavigationRail::setBadge(int page, int count) {
     buttons_.at(static_cast<std::size_t>(page))->setBadge(count);
+}
+
+void NavigationRail::setNotice(int page, const char *textKey) {
+    buttons_.at(static_cast<std::size_t>(page))->setNotice(textKey);
 }
 
 void NavigationRail::choose(int page) {

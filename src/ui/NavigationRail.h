@@ -27,6 +27,9 @@ public:
     [[nodiscard]] int current() const { return current_; }
     /// A number at the page's sign, "9+" from ten on; 0 takes it away.
     void setBadge(int page, int count);
+    /// A dot at the page's sign. `textKey` is the translation key of what it says, with %1 for the page's
+    /// name, and has to outlive the rail; null takes the dot away.
+    void setNotice(int page, const char *textKey);
     /// To be called when the window's size has changed: the rail may stay as high as it was and yet have to
     /// become wider.
     void fitToWindow();

@@ -28,6 +28,8 @@ enum class SettingField {
     MqttDiscovery, ///< flag: tell Home Assistant of the supply
     RemotePower,   ///< flag: a remote command may shut this PC down
     MetricsPort,   ///< integer: 0 for no metrics, else 1 to 65535
+    UpdateEnabled, ///< flag: ask for a newer version once a day
+    UpdateAddress, ///< text: where; empty for nowhere
     Count,
 };
 
@@ -39,7 +41,8 @@ enum class SettingStatus {
     Mqtt,
     Metrics,
     Sensors,
-    Data, ///< the data folder
+    Data,   ///< the data folder
+    Update, ///< what the last check for a newer version has found
     Count,
 };
 

@@ -42,6 +42,12 @@ signals:
     void exportRequested(const QString &path);
     void importRequested(const QString &path);
     void resetRequested();
+    void updateCheckRequested();
+
+public:
+    /// Whether a text may be the address that is asked for new versions. Without a rule any may.
+    using AddressRule = bool (*)(const QString &text);
+    AddressRule addressRule = nullptr;
 };
 
 } // namespace zpsg::ui

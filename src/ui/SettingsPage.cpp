@@ -19,7 +19,8 @@ namespace {
 std::vector<const char *> sectionKeys() {
     return {QT_TRID_NOOP("SETTING_STR_GENERAL"), QT_TRID_NOOP("SETTING_STR_ENERGY"),
             QT_TRID_NOOP("SETTING_STR_ALARMS"),  QT_TRID_NOOP("SETTING_STR_REMOTE"),
-            QT_TRID_NOOP("SETTING_STR_SENSORS"), QT_TRID_NOOP("SETTING_STR_DATA")};
+            QT_TRID_NOOP("SETTING_STR_SENSORS"), QT_TRID_NOOP("SETTING_STR_UPDATES"),
+            QT_TRID_NOOP("SETTING_STR_DATA")};
 }
 
 } // namespace
@@ -52,6 +53,7 @@ void SettingsPage::makeSections() {
     scroll_->addSection(makeAlarmSettings(*link_, content));
     scroll_->addSection(makeRemoteSettings(*link_, content));
     scroll_->addSection(makeSensorSettings(*link_, content));
+    scroll_->addSection(makeUpdateSettings(*link_, content));
     scroll_->addSection(makeDataSettings(*link_, content));
 }
 
@@ -64,6 +66,7 @@ void SettingsPage::forwardSignals() {
     connect(link_, &SettingsLink::exportRequested, this, &SettingsPage::exportRequested);
     connect(link_, &SettingsLink::importRequested, this, &SettingsPage::importRequested);
     connect(link_, &SettingsLink::resetRequested, this, &SettingsPage::resetRequested);
+    connect(link_, &SettingsLink::updateCheckRequested, this, &SettingsPage::updateCheckRequested);
 }
 
 void SettingsPage::setValue(SettingField field, const QVariant &value) { link_->setValue(field, value); }
@@ -71,6 +74,8 @@ void SettingsPage::setValue(SettingField field, const QVariant &value) { link_->
 void SettingsPage::setStatus(SettingStatus status, const QString &text, bool problem) {
     link_->setStatus(status, text, problem);
 }
+
+void SettingsPage::setAddressRule(bool (*rule)(const QString &)) { link_->addressRule = rule; }
 
 void SettingsPage::showResult(const QString &text, bool problem) { emit link_->resultShown(text, problem); }
 

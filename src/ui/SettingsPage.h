@@ -20,7 +20,7 @@ class SettingsPage final : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Section { General, Energy, Alarms, Remote, Sensors, Data };
+    enum class Section { General, Energy, Alarms, Remote, Sensors, Updates, Data };
 
     explicit SettingsPage(QWidget *parent = nullptr);
 
@@ -31,6 +31,8 @@ public:
     void setStatus(SettingStatus status, const QString &text, bool problem = false);
     /// How the last export, import or reset ended; an empty text takes it away.
     void showResult(const QString &text, bool problem);
+    /// Which texts may be the address that is asked for new versions; any, while there is no rule.
+    void setAddressRule(bool (*rule)(const QString &text));
     void showSection(Section section);
     [[nodiscard]] Section section() const;
 
@@ -46,6 +48,8 @@ signals:
     void importRequested(const QString &path);
     /// The user was asked and has agreed.
     void resetRequested();
+    /// The user wants to know now whether there is a newer version.
+    void updateCheckRequested();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

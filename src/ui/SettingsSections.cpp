@@ -5,6 +5,7 @@
 #include "ui/SettingsLink.h"
 #include "ui/SettingsMetricsCard.h"
 #include "ui/SettingsMqttCard.h"
+#include "ui/SettingsUpdateCard.h"
 #include "ui/Style.h"
 #include "ui/Temperature.h"
 
@@ -220,6 +221,12 @@ SettingsSection *makeSensorSettings(SettingsLink &link, QWidget *parent) {
         Field::Sensors, card));
     showStatus(link, SettingStatus::Sensors, card->addFoot());
     section->addCard(card);
+    return section;
+}
+
+SettingsSection *makeUpdateSettings(SettingsLink &link, QWidget *parent) {
+    auto *section = new SettingsSection(parent);
+    section->addCard(new SettingsUpdateCard(link, section));
     return section;
 }
 

@@ -30,6 +30,7 @@ SettingsSection *makeEnergySettings(SettingsLink &link, QWidget *parent);
 SettingsSection *makeAlarmSettings(SettingsLink &link, QWidget *parent);
 SettingsSection *makeRemoteSettings(SettingsLink &link, QWidget *parent);
 SettingsSection *makeSensorSettings(SettingsLink &link, QWidget *parent);
+SettingsSection *makeUpdateSettings(SettingsLink &link, QWidget *parent);
 SettingsSection *makeDataSettings(SettingsLink &link, QWidget *parent);
 
 } // namespace zpsg::ui

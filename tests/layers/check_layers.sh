@@ -14,7 +14,7 @@ declare -A allowed=(
     [records]="records power psu cipher storage"
     [lighting]="lighting psu"
     [fan]="fan psu"
-    [remote]="remote psu"
+    [remote]="remote psu platform"
     [cloud]="cloud"
     [sensors]="sensors platform"
     [ui]="ui psu power records lighting fan sensors"
@@ -49,7 +49,7 @@ for folder in "$src"/*/; do
         ;;
     esac
 done
-if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|Lighting|FanCurve|LED_Color|Mqtt|Socket|Metrics|Window)/' "$src" \
+if grep -rnE '"/?[A-Za-z0-9]*(Setting|Features|TimeData|Cloud|Lighting|FanCurve|LED_Color|Mqtt|Socket|Metrics|Window|Update)/' "$src" \
     --include='*.cpp' --include='*.h' | grep -v 'app/SettingsTable.h'; then
     complain "a settings key is built outside app/SettingsTable.h"
 fi

@@ -76,4 +76,11 @@ bool autostartEnabled() {
     return entry && entryInEffect(*entry);
 }
 
+bool autostartStarts(const std::string &executable) {
+    const auto entry = readEntry();
+    return entry && entryInEffect(*entry) &&
+           (entryStarts(*entry, execValue(executable, true)) ||
+            entryStarts(*entry, execValue(executable, false)));
+}
+
 } // namespace zpsg::platform

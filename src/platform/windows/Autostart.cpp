@@ -57,4 +57,9 @@ bool autostartEnabled() {
            ERROR_SUCCESS;
 }
 
+bool autostartStarts(const std::string &executable) {
+    const auto value = readValue();
+    return value == runCommand(wide(executable), true) || value == runCommand(wide(executable), false);
+}
+
 } // namespace zpsg::platform

@@ -7,7 +7,7 @@
 namespace zpsg::platform {
 namespace {
 
-constexpr UINT kExitMessage = WM_APP;
+constexpr UINT kExitMessage = WM_APP;             // packaging/windows/shared.nsh posts it as well
 constexpr UINT kExitCodeOfControlC = 0xC000013AU; // what the system gives a program that Ctrl+C ended
 
 // Shared with the console's own thread.

@@ -3,7 +3,7 @@
 namespace zpsg::platform {
 namespace {
 
-constexpr const wchar_t *kClassName = L"zpsg-messages";
+constexpr const wchar_t *kClassName = L"zpsg-messages"; // packaging/windows/shared.nsh looks for it
 
 } // namespace
 

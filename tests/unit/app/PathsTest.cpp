@@ -36,6 +36,12 @@ TEST_F(PathsTest, PortableUseNeedsTheShippedFoldersBesideTheProgram) {
     EXPECT_EQ(portable->resources, portable->data);
     EXPECT_EQ(findPaths(executable, std::nullopt, true, error)->data,
               dir.filePath(QStringLiteral("app/bin/demo")));
+    QFile list(dir.filePath(QStringLiteral("app/bin/installed.ini")));
+    ASSERT_TRUE(list.open(QIODevice::WriteOnly));
+    const auto bySetup = findPaths(executable, std::nullopt, false, error);
+    ASSERT_TRUE(bySetup);
+    EXPECT_EQ(bySetup->data, dir.filePath(QStringLiteral("home/zpsg")));
+    EXPECT_EQ(bySetup->resources, portable->resources);
 }
 
 TEST_F(PathsTest, AGivenDirectoryIsMadeOrRefusedInPlainWords) {

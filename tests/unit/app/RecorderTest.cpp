@@ -99,7 +99,12 @@ TEST_F(RecorderTest, TakesItsDatabaseFromWhatShipsOnceOnly) {
     make()->history().addDay({now.date(), 1.0F, 1.0F, 90.0F, 1});
     EXPECT_EQ(make()->totals(now.date(), now.date()).size(), 1U);
     QFile::remove(data.filePath(QStringLiteral("database.db")));
-    QFile::remove(resources.filePath(QStringLiteral("database.db")));
+    QFile::rename(resources.filePath(QStringLiteral("database.db")),
+                  resources.filePath(QStringLiteral("empty.db")));
+    make()->history().addDay({now.date(), 1.0F, 1.0F, 90.0F, 1}); // only a day that is there takes it
+    EXPECT_EQ(make()->totals(now.date(), now.date()).size(), 1U) << "by its name where both share a folder";
+    QFile::remove(data.filePath(QStringLiteral("database.db")));
+    QFile::remove(resources.filePath(QStringLiteral("empty.db")));
     const auto without = make();
     minutes(*without, 3);
     EXPECT_EQ(without->totals(now.date(), now.date()).at(0).count, 3);

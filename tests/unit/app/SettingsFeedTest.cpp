@@ -1,5 +1,7 @@
 // From the settings page through the whole window to where a setting takes effect.
+#include "app/SettingsFeed.h"
 #include "app/CvZpsGV2.h"
+#include "platform/Autostart.h"
 #include "simulator/SimulatedBus.h"
 #include "ui/AlarmsPage.h"
 #include "ui/ArcGauge.h"
@@ -85,6 +87,13 @@ TEST_F(SettingsFeedTest, TakesEffectAtOnceAndIsKept) {
     QFile file(entry);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("\" open"));
+    change(SettingField::Autostart, false);
+    EXPECT_FALSE(QFile::exists(entry));
+    std::string error;
+    const std::string executable = dir.filePath(QStringLiteral("zpsg")).toStdString();
+    ASSERT_TRUE(platform::setAutostart(platform::Autostart::Shown, executable, error)) << "as a setup does";
+    window->findChild<app::SettingsFeed *>()->takeUpAutostart();
+    EXPECT_TRUE(kept("Setting/Autostart").toBool());
     change(SettingField::Autostart, false);
     EXPECT_FALSE(QFile::exists(entry));
 

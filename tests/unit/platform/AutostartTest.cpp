@@ -75,6 +75,13 @@ TEST_F(AutostartTest, WhatIsInLineAlreadyIsNotTouched) {
 TEST_F(AutostartTest, SwitchedOnAndOff) {
     EXPECT_FALSE(autostartEnabled());
     EXPECT_TRUE(setAutostart(Autostart::Off, "/opt/zpsg", error_)) << "nothing to remove";
+    for (const auto mode : {Autostart::Shown, Autostart::Hidden}) {
+        EXPECT_TRUE(setAutostart(mode, "/opt/zpsg", error_));
+        EXPECT_TRUE(autostartStarts("/opt/zpsg"));
+        EXPECT_FALSE(autostartStarts("/opt/zps"));
+    }
+    EXPECT_TRUE(setAutostart(Autostart::Off, "/opt/zpsg", error_));
+    EXPECT_FALSE(autostartStarts("/opt/zpsg"));
     ASSERT_TRUE(enable("/opt/zpsg"));
     EXPECT_TRUE(autostartEnabled());
     EXPECT_TRUE(setAutostart(Autostart::Off, "/opt/zpsg", error_));

@@ -97,6 +97,11 @@ TEST_F(NavigationTest, TheBadgeIsDrawnAndSpokenAndGoesAgain) {
     rail_->setBadge(1, 0);
     EXPECT_EQ(button->accessibleName(), name);
     EXPECT_EQ(rail_->grab().toImage(), bare);
+    rail_->setNotice(1, "NAV_UPDATE");
+    EXPECT_EQ(button->accessibleName(), name + QStringLiteral(", a newer version is available"));
+    EXPECT_NE(rail_->grab().toImage(), bare);
+    rail_->setNotice(1, nullptr);
+    EXPECT_EQ(rail_->grab().toImage(), bare);
 }
 
 TEST_F(NavigationTest, SevenPagesFitTheLeastWindow) {

@@ -30,8 +30,8 @@ using Field = SettingField;
 using Section = SettingsPage::Section;
 using Told = QList<std::pair<Field, QVariant>>;
 
-constexpr std::array kSections{Section::General, Section::Energy,  Section::Alarms,
-                               Section::Remote,  Section::Sensors, Section::Data};
+constexpr std::array kSections{Section::General, Section::Energy,  Section::Alarms, Section::Remote,
+                               Section::Sensors, Section::Updates, Section::Data};
 
 /// Every text longer by so much of itself, as another language's may be.
 class Longer : public QTranslator {
@@ -110,6 +110,7 @@ TEST_F(SettingsPageTest, SwitchesTellOfTheUserOnly) {
     };
     page_.setValue(Field::Autostart, true);
     page_.setValue(Field::MqttHost, QStringLiteral("broker"));
+    page_.setValue(Field::UpdateAddress, QStringLiteral("https://a"));
     for (const Case &c : {Case{Section::General, Field::Autostart, "Start with the system"},
                           Case{Section::General, Field::StartHidden, "Start hidden in the tray"},
                           Case{Section::Alarms, Field::VoltWarning, "Voltage warning"},
@@ -118,7 +119,8 @@ TEST_F(SettingsPageTest, SwitchesTellOfTheUserOnly) {
                           Case{Section::Remote, Field::SocketAllowRemote, "Allow other computers"},
                           Case{Section::Remote, Field::MqttDiscovery, "Home Assistant discovery"},
                           Case{Section::Remote, Field::RemotePower, "Remote shutdown"},
-                          Case{Section::Sensors, Field::Sensors, "Read the PC’s own sensors"}}) {
+                          Case{Section::Sensors, Field::Sensors, "Read the PC’s own sensors"},
+                          Case{Section::Updates, Field::UpdateEnabled, "Tell me about new versions"}}) {
         page_.showSection(c.section);
         settle();
         auto *toggle = find<ToggleSwitch>(c.name);
@@ -327,8 +329,11 @@ TEST_F(SettingsPageTest, MetricsAreOneFieldOfSwitchAndPort) {
     page_.showSection(Section::Remote);
     settle();
     auto *toggle = find<ToggleSwitch>("Offer metrics");
-    const auto ports = page_.findChildren<SettingsEntry *>();
-    SettingsEntry *port = ports.back();
+    auto ports = page_.findChildren<SettingsEntry *>();
+    ports.erase(std::remove_if(ports.begin(), ports.end(),
+                               [](const SettingsEntry *each) { return !each->isVisible(); }),
+                ports.end());
+    SettingsEntry *port = ports.back(); // MQTT has one too
     ASSERT_EQ(port->accessibleName(), QStringLiteral("Port"));
     EXPECT_FALSE(port->isEnabled());
     toggle->click();
@@ -410,6 +415,38 @@ TEST_F(SettingsPageTest, ButtonsAskForWhatTheySay) {
     EXPECT_EQ(imports.count(), 1);
     page_.showResult(QStringLiteral("Exported"), false);
     EXPECT_TRUE(reads("Exported"));
+}
+
+TEST_F(SettingsPageTest, TheAddressOfUpdatesIsTakenWhenItIsOne) {
+    page_.setAddressRule([](const QString &text) { return text.startsWith(QStringLiteral("https://")); });
+    page_.showSection(Section::Updates);
+    settle();
+    const auto *check = button("btnCheckUpdate");
+    const auto *toggle = find<ToggleSwitch>("Tell me about new versions");
+    struct Case {
+        const char *typed;
+        Qt::Key key;
+        const char *told; ///< null: nothing
+        bool fault;
+    };
+    for (const Case &c :
+         {Case{"file:///x", Qt::Key_Return, nullptr, true}, Case{"http://a", Qt::Key_Tab, nullptr, true},
+          Case{"https://b", Qt::Key_Escape, nullptr, false},
+          Case{" https://a ", Qt::Key_Return, "https://a", false},
+          Case{"https://a", Qt::Key_Return, nullptr, false}, Case{"", Qt::Key_Return, "", false},
+          Case{"https://c", Qt::Key_Tab, "https://c", false}}) {
+        const bool some = c.told != nullptr && *c.told != 0;
+        told_.clear();
+        type("Address", QString::fromLatin1(c.typed));
+        QTest::keyClick(QApplication::focusWidget(), c.key);
+        const Told expected{{Field::UpdateAddress, QString::fromLatin1(c.told)}};
+        EXPECT_EQ(told_, c.told == nullptr ? Told() : expected) << c.typed;
+        EXPECT_EQ(reads("begins with https://, without"), c.fault) << c.typed;
+        if (c.told != nullptr) {
+            EXPECT_EQ(check->isEnabled() && toggle->isEnabled(), some);
+            EXPECT_EQ(reads("Needs an address"), !some);
+        }
+    }
 }
 
 TEST_F(SettingsPageTest, TheDataFolderCanBeCopiedWhole) {

@@ -2,6 +2,7 @@
 #include "TextFitStage.h"
 
 #include "power/Tariff.h"
+#include "ui/AboutPage.h"
 #include "ui/AlarmsPage.h"
 #include "ui/CustomFanSpeedWidget.h"
 #include "ui/DashboardPage.h"
@@ -16,6 +17,7 @@
 #include "ui/HistoryPage.h"
 #include "ui/LightingOptions.h"
 #include "ui/LightingPage.h"
+#include "ui/NavigationRail.h"
 #include "ui/PcView.h"
 #include "ui/popupWidget.h"
 #include "ui/SettingsPage.h"
@@ -216,6 +218,19 @@ const std::vector<Scene> &scenes() {
         {"settings of alarms", Page::Settings, section(Section::Alarms)},
         {"settings of remote control", Page::Settings, section(Section::Remote)},
         {"settings of sensors", Page::Settings, section(Section::Sensors)},
+        {"settings of updates", Page::Settings,
+         [](Stage &s) {
+             s.view.settings()->showSection(Section::Updates);
+             s.view.settings()->setValue(SettingField::UpdateAddress, QString());
+         }},
+        {"settings of updates with an address", Page::Settings,
+         [](Stage &s) {
+             s.view.settings()->setValue(SettingField::UpdateAddress,
+                                         QStringLiteral("https://zpsg.example/"));
+             s.view.settings()->setStatus(SettingStatus::Update,
+                                          qtTrId("UPDATE_STR_INSECURE").arg(QStringLiteral("zpsg.example")),
+                                          true);
+         }},
         {"settings of data", Page::Settings, section(Section::Data)},
         {"rates", Page::Settings,
          [](Stage &s) {
@@ -224,6 +239,12 @@ const std::vector<Scene> &scenes() {
              s.view.rates()->open(power::Tariff(0.3456, periods), QStringLiteral("EUR"));
          }},
         {"about", Page::About, [](Stage &s) { s.view.rates()->closeSelf(); }},
+        {"about with an update", Page::About,
+         [](Stage &s) {
+             s.view.navigation()->setNotice(static_cast<int>(Page::About), "NAV_UPDATE");
+             s.view.about()->setUpdate({QStringLiteral("10.20.30"), QStringLiteral("Better in all things"),
+                                        QStringLiteral("https://zpsg.example/")});
+         }},
     };
     return all;
 }
