@@ -16,6 +16,12 @@ test_packages=(
     dbus-daemon pulseaudio-utils mosquitto mosquitto-clients
     qemu-system-x86 busybox-static cpio kmod xz-utils
     iproute2 strace python3 openssl
+    wine wine64
+)
+# For packaging/windows, which builds the Windows program and tries it.
+windows_packages=(
+    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev nsis zip imagemagick
+    dpkg-dev autoconf automake libtool tcl make perl
 )
 
 installed() { # PACKAGE

@@ -4,9 +4,11 @@
 #include "app/Headless.h"
 #include "app/Paths.h"
 #include "app/StartUp.h"
+#include "platform/CommandArguments.h"
 #include "platform/DeviceAccess.h"
 #include "platform/ExitRequest.h"
 #include "platform/NativeEvent.h"
+#include "platform/Terminal.h"
 #include "platform/WindowRendezvous.h"
 
 #include <QApplication>
@@ -28,8 +30,13 @@ int wrongUse(const QString &what) {
 
 QStringList argumentsAfterName(int argc, char **argv) {
     QStringList arguments;
-    for (int i = 1; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+    for (const std::u16string &argument : platform::unicodeArguments()) {
+        arguments.append(QString::fromStdU16String(argument));
+    }
+    if (arguments.isEmpty()) {
+        for (int i = 1; i < argc; ++i) {
+            arguments.append(QString::fromLocal8Bit(argv[i]));
+        }
     }
     return arguments;
 }
@@ -92,6 +99,7 @@ int runExportCommand(int argc, char **argv, const QStringList &arguments) {
 } // namespace
 
 int main(int argc, char **argv) {
+    platform::attachToTerminal();
     const QStringList arguments = argumentsAfterName(argc, argv);
     if (!arguments.isEmpty() && arguments.first() == QLatin1String("export")) {
         return runExportCommand(argc, argv, arguments.mid(1));

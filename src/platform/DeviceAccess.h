@@ -16,7 +16,8 @@ enum class DeviceAccess {
 DeviceAccess deviceAccess(const std::string &path);
 
 /// What the user does about Denied, as one shell command; empty where it can't happen. `resourceDir` is the
-/// folder of what ships with the program: the rule that grants access stands in it.
+/// folder of what ships with the program: the rule that grants access stands in it, unless a package has put
+/// it in force already.
 std::string deviceAccessRemedy(const std::string &resourceDir);
 
 } // namespace zpsg::platform

@@ -5,6 +5,10 @@
 
 namespace zpsg::platform {
 
+/// Where a program with windows gets no terminal by itself, takes that of the program which started it, for
+/// those standard streams that lead nowhere else. To be called first of all.
+void attachToTerminal();
+
 /// Whether a person is looking at the stream.
 bool isTerminal(std::FILE *stream);
 

@@ -1,10 +1,10 @@
 #include "remote/HostLookup.h"
 
-#include <QHostAddress>
+#include "platform/Network.h"
 
 #include <algorithm>
 #include <mutex>
-#include <netdb.h>
+#include <string>
 #include <thread>
 #include <utility>
 
@@ -57,17 +57,9 @@ void HostLookup::finish(const QString &name, const QStringList &addresses) {
 }
 
 QStringList HostLookup::systemResolver(const QString &name) {
-    addrinfo hints{};
-    hints.ai_family = AF_UNSPEC;
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo *found = nullptr;
-    if (getaddrinfo(name.toUtf8().constData(), nullptr, &hints, &found) != 0) {
-        return {};
-    }
-    const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> owner(found, &freeaddrinfo);
     QStringList addresses;
-    for (const addrinfo *entry = found; entry != nullptr; entry = entry->ai_next) {
-        addresses.append(QHostAddress(entry->ai_addr).toString());
+    for (const std::string &address : platform::hostAddresses(name.toStdString())) {
+        addresses.append(QString::fromStdString(address));
     }
     // A route for IPv6 that leads nowhere is the commoner fault, and would use up the whole attempt.
     std::stable_partition(addresses.begin(), addresses.end(),

@@ -1,5 +1,6 @@
 #include "remote/MetricsServer.h"
 
+#include "platform/Network.h"
 #include "remote/Logging.h"
 
 #include <microhttpd.h>
@@ -44,6 +45,11 @@ int respond(MHD_Connection *connection, unsigned status, const QByteArray &body,
 
 int refuse(MHD_Connection *connection, unsigned status, const char *why) {
     return respond(connection, status, why, "text/plain; charset=utf-8");
+}
+
+qintptr socketOf(MHD_Connection *connection) {
+    return static_cast<qintptr>(
+        MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd);
 }
 
 } // namespace
@@ -100,18 +106,11 @@ bool MetricsServer::listen(quint16 port) {
 
 bool MetricsServer::startDaemon() {
     // The sockets come from the listeners, so that both addresses share one count of connections.
-    daemon_.reset(MHD_start_daemon(MHD_USE_EPOLL | MHD_USE_NO_LISTEN_SOCKET, 0, nullptr, nullptr,
-                                   &Callbacks::answer, this, MHD_OPTION_CONNECTION_LIMIT, kMostConnections,
+    daemon_.reset(MHD_start_daemon(MHD_USE_NO_LISTEN_SOCKET, 0, nullptr, nullptr, &Callbacks::answer, this,
+                                   MHD_OPTION_CONNECTION_LIMIT, kMostConnections,
                                    MHD_OPTION_CONNECTION_MEMORY_LIMIT, kRequestMemory,
                                    MHD_OPTION_NOTIFY_CONNECTION, &Callbacks::note, this, MHD_OPTION_END));
-    const MHD_DaemonInfo *info =
-        daemon_ ? MHD_get_daemon_info(daemon_.get(), MHD_DAEMON_INFO_EPOLL_FD) : nullptr;
-    if (info == nullptr) {
-        return false;
-    }
-    ready_ = std::make_unique<QSocketNotifier>(info->epoll_fd, QSocketNotifier::Read);
-    connect(ready_.get(), &QSocketNotifier::activated, this, &MetricsServer::process);
-    return true;
+    return daemon_ != nullptr;
 }
 
 quint16 MetricsServer::port() const { return listener4_ ? listener4_->serverPort() : 0; }
@@ -120,7 +119,6 @@ void MetricsServer::close() {
     due_.stop();
     listener4_.reset();
     listener6_.reset();
-    ready_.reset();
     daemon_.reset();
     clients_.clear();
 }
@@ -137,16 +135,37 @@ void MetricsServer::take(qintptr socket) {
 }
 
 void MetricsServer::noteClient(MHD_Connection *connection, bool opened) {
-    if (opened) {
-        clients_.push_back({connection, std::chrono::steady_clock::now() + patience_});
+    if (!opened) {
+        // Before the socket is closed, so that its number is watched no longer when somebody else gets it.
+        std::erase_if(clients_,
+                      [connection](const Client &client) { return client.connection == connection; });
         return;
     }
-    std::erase_if(clients_, [connection](const Client &client) { return client.connection == connection; });
+    Client client{connection, socketOf(connection), std::chrono::steady_clock::now() + patience_, {}, {}};
+    const auto watch = [this, &client](QSocketNotifier::Type what) {
+        auto notifier = std::make_unique<QSocketNotifier>(client.socket, what);
+        notifier->setEnabled(false);
+        connect(notifier.get(), &QSocketNotifier::activated, this, &MetricsServer::wake);
+        return notifier;
+    };
+    client.readable = watch(QSocketNotifier::Read);
+    client.writable = watch(QSocketNotifier::Write);
+    clients_.push_back(std::move(client));
+}
+
+// Not at once: a notifier must outlive its own signal, and the connection may end now.
+void MetricsServer::wake() {
+    for (const Client &client : clients_) {
+        client.readable->setEnabled(false);
+        client.writable->setEnabled(false);
+    }
+    due_.start(0);
 }
 
 void MetricsServer::process() {
     endOverdue();
     MHD_run(daemon_.get());
+    watchClients();
     MHD_UNSIGNED_LONG_LONG soon = 0; // milliseconds
     if (MHD_get_timeout(daemon_.get(), &soon) == MHD_YES && soon == 0) {
         due_.start(0);
@@ -161,6 +180,22 @@ void MetricsServer::process() {
     }
 }
 
+// Each socket for what the library waits for there.
+void MetricsServer::watchClients() {
+    fd_set readable;
+    fd_set writable;
+    fd_set failed;
+    FD_ZERO(&readable);
+    FD_ZERO(&writable);
+    FD_ZERO(&failed);
+    MHD_get_fdset(daemon_.get(), &readable, &writable, &failed, nullptr);
+    for (const Client &client : clients_) {
+        const auto socket = static_cast<MHD_socket>(client.socket);
+        client.readable->setEnabled(FD_ISSET(socket, &readable) != 0);
+        client.writable->setEnabled(FD_ISSET(socket, &writable) != 0);
+    }
+}
+
 // The library's own timeout starts anew with each byte, which is all that somebody who sends them one by one
 // needs. It notices a connection that is shut down as one that the client has ended.
 void MetricsServer::endOverdue() {
@@ -168,9 +203,7 @@ void MetricsServer::endOverdue() {
     for (Client &client : clients_) {
         if (client.deadline <= now) {
             client.deadline = now + patience_;
-            shutdown(
-                MHD_get_connection_info(client.connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd,
-                SHUT_RDWR);
+            platform::endConnection(client.socket);
         }
     }
 }

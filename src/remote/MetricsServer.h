@@ -44,13 +44,17 @@ public:
     void close();
 
 private slots:
+    void wake();
     void process();
 
 private:
     class Listener;
     struct Client {
         MHD_Connection *connection;
+        qintptr socket;
         std::chrono::steady_clock::time_point deadline;
+        std::unique_ptr<QSocketNotifier> readable;
+        std::unique_ptr<QSocketNotifier> writable;
     };
     struct Stop {
         void operator()(MHD_Daemon *daemon) const;
@@ -59,6 +63,7 @@ private:
 
     bool startDaemon();
     void take(qintptr socket);
+    void watchClients();
     void endOverdue();
     int answer(MHD_Connection *connection, const char *path, const char *method);
     void noteClient(MHD_Connection *connection, bool opened);
@@ -67,7 +72,6 @@ private:
     const std::chrono::milliseconds patience_;
     std::vector<Client> clients_; // the daemon uses it to its end
     std::unique_ptr<MHD_Daemon, Stop> daemon_;
-    std::unique_ptr<QSocketNotifier> ready_;
     std::unique_ptr<Listener> listener4_;
     std::unique_ptr<Listener> listener6_;
     QTimer due_;

@@ -1,12 +1,13 @@
 #include "remote/MqttClient.h"
 
+#include "platform/Network.h"
+
 #include "remote/Logging.h"
 
 #include <QHostAddress>
 #include <QPointer>
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <mosquitto.h>
 
@@ -23,7 +24,7 @@ constexpr int kLeastKeepAlive = 5; // s, what libmosquitto accepts
 void initialise() {
     [[maybe_unused]] static const int once = [] {
         // TLS writes to the socket without MSG_NOSIGNAL: a broker that went away must not end the program.
-        (void)std::signal(SIGPIPE, SIG_IGN);
+        platform::surviveEndedConnections();
         return mosquitto_lib_init();
     }();
 }

@@ -7,6 +7,8 @@
 
 namespace zpsg::platform {
 
+void attachToTerminal() {} // every program here has its parent's
+
 bool isTerminal(std::FILE *stream) { return isatty(fileno(stream)) == 1; }
 
 bool prepareForData(std::FILE *stream) {

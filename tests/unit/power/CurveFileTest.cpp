@@ -1,6 +1,7 @@
 #include "power/CurveFile.h"
 
 #include "cipher/TextCipher.h"
+#include "support/FullDisk.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -11,8 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace zpsg::power;
 
@@ -132,14 +131,10 @@ TEST_F(CurveFileTest, OnlyAWholeCurveIsWritten) {
 
 TEST_F(CurveFileTest, AFullDiskLeavesTheOldFile) {
     const QString path = put("as before");
-    rlimit previous{};
-    getrlimit(RLIMIT_FSIZE, &previous);
-    auto *const handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{20, previous.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    const bool written = writeCurveFile(path, json(kGood), why);
-    setrlimit(RLIMIT_FSIZE, &previous);
-    std::signal(SIGXFSZ, handler);
+    const bool written = [&] {
+        const zpsg::test::FullDisk disk(20);
+        return writeCurveFile(path, json(kGood), why);
+    }();
     EXPECT_FALSE(written);
     EXPECT_FALSE(why.isEmpty());
     EXPECT_EQ(content(path), "as before");

@@ -135,7 +135,7 @@ TEST_F(CurveToolTest, BadInputIsNamedAndKeepsTheOldFile) {
           Case{kMake, changed("200", "16001"), R"("curves", "TWO")"},
           Case{kMake, changed("curves", "curve"), R"("curves")"}, Case{kMake, kSource, "out: "}}) {
         EXPECT_EQ(run({command, put("in", input), path("out")}), Failed) << input.constData();
-        EXPECT_THAT(complaint.toStdString(), ::testing::MatchesRegex("zpsg-curve: [^\n]*\n"))
+        EXPECT_THAT(complaint.toStdString(), ::testing::MatchesRegex("zpsg-curve: .*\n"))
             << input.constData();
         EXPECT_THAT(complaint.toStdString(), ::testing::HasSubstr(expected)) << input.constData();
         EXPECT_EQ(content("out"), "as before") << input.constData();
@@ -150,7 +150,7 @@ TEST_F(CurveToolTest, WrongUseIsToldFromFailure) {
          {QStringList(), QStringList{QStringLiteral("show")}, QStringList{kMake, path("in")},
           QStringList{kDecipher}, QStringList{kEncipher, path("in"), path("out"), path("more")}}) {
         EXPECT_EQ(run(arguments), WrongUse);
-        EXPECT_THAT(complaint.toStdString(), ::testing::MatchesRegex("zpsg-curve: [^\n]*\n"));
+        EXPECT_THAT(complaint.toStdString(), ::testing::MatchesRegex("zpsg-curve: .*\n"));
     }
     EXPECT_EQ(run({QStringLiteral("--help")}), Done);
     EXPECT_TRUE(printed.contains("decipher"));

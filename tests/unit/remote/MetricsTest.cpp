@@ -117,8 +117,11 @@ protected:
               const QHostAddress &address = QHostAddress(QHostAddress::LocalHost)) const {
         auto socket = std::make_unique<QTcpSocket>();
         socket->connectToHost(address, server.port());
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return socket->state() == QAbstractSocket::ConnectedState; }, kPatience));
+        bool connected = false; // it may be ended again before anybody looks
+        QObject::connect(socket.get(), &QTcpSocket::connected, socket.get(),
+                         [&connected] { connected = true; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return connected; }, kPatience));
+        socket->disconnect(SIGNAL(connected()));
         return socket;
     }
     /// All that comes until the server ends the connection.
