@@ -23,7 +23,7 @@ cd "$root"
 rm -f "$output"/*.o "$output"/selftest.exe
 set -- src/platform/windows/*.cpp src/platform/EventBurst.cpp \
     src/simulator/LinearEncoding.cpp src/simulator/SupplyModel.cpp src/simulator/DayScript.cpp \
-    tests/unit/platform/WindowsSelfTest.cpp
+    tests/unit/platform/WindowsSelfTest.cpp tests/unit/platform/windows/*.cpp
 
 export compiler output
 # The object's name comes from the whole path: two folders may have files of the same name.
@@ -31,6 +31,6 @@ printf '%s\n' "$@" | xargs -P 2 -I '{}' sh -c '
     object=$output/$(printf %s "$1" | tr / -).o
     "$compiler" -std=c++20 -O1 -Wall -Wextra -Wpedantic -Werror -Isrc -c "$1" -o "$object"' compile '{}'
 "$compiler" -static -o "$output/selftest.exe" "$output"/*.o -lhid -lsetupapi -luser32 -ladvapi32 -lole32 -lpowrprof \
-    -lwtsapi32
+    -lwtsapi32 -lws2_32
 
 echo "Windows: $# sources compile without warnings and link: $output/selftest.exe"

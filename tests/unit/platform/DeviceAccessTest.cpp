@@ -1,7 +1,9 @@
 #include "PlatformFixture.h"
 
 #include "platform/DeviceAccess.h"
+#include "platform/linux/DeviceRemedy.h"
 
+#include <array>
 #include <fstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -40,6 +42,22 @@ TEST_F(DeviceAccessTest, TellsDeniedFromGone) {
     EXPECT_EQ(asOrdinaryUser(node), DeviceAccess::Denied) << "reading alone is not enough";
     ASSERT_EQ(chmod(node.c_str(), 0), 0);
     EXPECT_EQ(asOrdinaryUser(node), DeviceAccess::Denied);
+}
+
+TEST_F(DeviceAccessTest, TheRemedyIsTheRuleAndThenTheGroup) {
+    const std::array<std::string, 2> folders{folder() / "none", folder()};
+    const auto remedy = [&folders](const char *user, const char *group) {
+        return deviceAccessRemedy("/opt/pat's zpsg", folders, user, group);
+    };
+    EXPECT_EQ(
+        remedy("pat", "plugdev").find(R"(sudo cp '/opt/pat'\''s zpsg/71-zpsg.rules' /etc/udev/rules.d/ && )"),
+        0U)
+        << remedy("pat", "plugdev");
+    std::ofstream(folder() / "71-zpsg.rules") << "";
+    EXPECT_NE(remedy("pat", "plugdev").find("usermod -aG plugdev 'pat'"), std::string::npos);
+    for (const auto &without : {remedy("", "plugdev"), remedy("pat", "")}) {
+        EXPECT_EQ(without, "sudo udevadm trigger --subsystem-match=hidraw");
+    }
 }
 
 } // namespace
