@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs, starts, updates and removes the program with its setup, under Wine with a registry and a drive of its own,
+# Installs, starts, updates and removes the program with its setup, under wine with a registry and a drive of its own,
 # and looks at what is there each time; then the ZIP that lies beside the setup. Prints a line a check and fails when one
 # did.
 #

@@ -36,6 +36,7 @@ xvfb-run --auto-servernum --server-args '-screen 0 1366x768x24' \
     ctest --test-dir "$build/cross" --output-on-failure "$@" || failed=1
 wineserver --kill || true
 if [ $# -eq 0 ]; then
+    xvfb-run --auto-servernum "$here/test-network.sh" "$build/stage/zpsg.exe" || failed=1
     "$here/test-installer.sh" "$build/output/zpsg-setup.exe" || failed=1
 fi
 exit $failed
