@@ -93,7 +93,7 @@ Headless::~Headless() = default;
 
 void Headless::start() {
     supply_.identifyModel();
-    if (!monitor_.mainPathPresent() && !monitor_.rawPathPresent()) {
+    if (!troubled_ && !monitor_.mainPathPresent() && !monitor_.rawPathPresent()) { // not told yet
         note(monitor_.state());
     }
     monitor_.readInfo();
