@@ -30,8 +30,9 @@ void collectNumbers(const QString &folder, const QString &prefix, std::set<int> 
 
 std::optional<std::vector<DaySums>> settledDays(const QString &dataDir, int number) {
     const auto content = readFile(dayPath(dataDir, number));
-    // An empty file that a crash left behind has no time; a settled file without rows has one.
-    if (!content.exists || !content.created.isValid() || content.unreadable > 0 ||
+    // An empty file that a crash left behind has no time, and one that was cut off may have no count; a
+    // settled file without rows has both.
+    if (!content.exists || !content.created.isValid() || !content.counted || content.unreadable > 0 ||
         content.claimed != content.rows.size()) {
         return std::nullopt;
     }

@@ -65,6 +65,7 @@ FileContent readFile(const QString &path) {
     }
     QSettings file(path, QSettings::IniFormat);
     content.created = QDateTime::fromString(file.value(kTimeKey).toString(), kTimeFormat);
+    content.counted = file.contains(kNumberKey);
     content.claimed = std::max(file.value(kNumberKey).toInt(), 0);
     const QStringList keys = rowKeys(file);
     for (const QString &key : keys) {

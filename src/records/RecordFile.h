@@ -20,10 +20,11 @@ inline constexpr int kRowsPerFile = 360;
 /// What a file holds, as far as it can be read.
 struct FileContent {
     bool exists = false;
-    QDateTime created;  ///< invalid when the file does not say
-    int claimed = 0;    ///< "/DATE/Number"; 0 when it is missing or no number
-    QStringList rows;   ///< deciphered, in the order of their keys
-    int unreadable = 0; ///< rows that were changed or cut off
+    QDateTime created;    ///< invalid when the file does not say
+    bool counted = false; ///< whether "/DATE/Number" is there
+    int claimed = 0;      ///< "/DATE/Number"; 0 when it is missing or no number
+    QStringList rows;     ///< deciphered, in the order of their keys
+    int unreadable = 0;   ///< rows that were changed or cut off
 };
 
 /// Reads every row that is there, whatever "/DATE/Number" says. Damage is named in a debug line and counted.

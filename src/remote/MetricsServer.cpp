@@ -203,6 +203,8 @@ void MetricsServer::endOverdue() {
     for (Client &client : clients_) {
         if (client.deadline <= now) {
             client.deadline = now + patience_;
+            // Where the end of a connection that this side has shut down goes unnoticed, in seconds.
+            MHD_set_connection_option(client.connection, MHD_CONNECTION_OPTION_TIMEOUT, 1U);
             platform::endConnection(client.socket);
         }
     }

@@ -162,7 +162,7 @@ TEST_F(HistoryScales, AxesHoldTheirValuesInFourRoundSteps) {
                                                           {-12.0, -11.0}}};
     for (const auto &[least, most] : cases) {
         const ValueScale scale = valueScale(least, most);
-        EXPECT_LE(scale.low, least);
+        EXPECT_LE(scale.low, least + 1e-9);
         EXPECT_GE(scale.high(), most - 1e-9);
         EXPECT_LE(scale.high() - scale.low, std::max(2.1 * (most - least), 0.01)) << least << " " << most;
         EXPECT_EQ(scale.ticks().size(), 5);
