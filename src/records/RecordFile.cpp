@@ -65,8 +65,7 @@ FileContent readFile(const QString &path) {
     }
     QSettings file(path, QSettings::IniFormat);
     content.created = QDateTime::fromString(file.value(kTimeKey).toString(), kTimeFormat);
-    content.counted = file.contains(kNumberKey);
-    content.claimed = std::max(file.value(kNumberKey).toInt(), 0);
+    content.claimed = std::max(file.value(kNumberKey).toString().toInt(&content.counted), 0);
     const QStringList keys = rowKeys(file);
     for (const QString &key : keys) {
         const auto row = cipher::decipher(file.value(kRowGroup + QLatin1Char('/') + key).toByteArray());

@@ -21,7 +21,7 @@ inline constexpr int kRowsPerFile = 360;
 struct FileContent {
     bool exists = false;
     QDateTime created;    ///< invalid when the file does not say
-    bool counted = false; ///< whether "/DATE/Number" is there
+    bool counted = false; ///< whether "/DATE/Number" is there and a number
     int claimed = 0;      ///< "/DATE/Number"; 0 when it is missing or no number
     QStringList rows;     ///< deciphered, in the order of their keys
     int unreadable = 0;   ///< rows that were changed or cut off
