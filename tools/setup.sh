@@ -16,7 +16,7 @@ test_packages=(
     dbus-daemon pulseaudio-utils mosquitto mosquitto-clients
     qemu-system-x86 busybox-static cpio kmod xz-utils
     iproute2 strace python3 openssl
-    wine wine64 curl
+    wine wine64 curl dpkg-dev
 )
 # For packaging/windows, which builds the Windows program and tries it.
 windows_packages=(

@@ -46,7 +46,7 @@ source_fetch() {
         for source_list in "$source_folder"/list.*; do
             if (cd "$source_folder/files" && source_apt apt-get source --download-only "$1=$version") >/dev/null 2>&1; then
                 rm -rf "$2"
-                (cd "$source_folder/files" && dpkg-source --no-check -x "$1_${version#*:}.dsc" "$2" >/dev/null)
+                (cd "$source_folder/files" && dpkg-source --no-check -x "$1_${version#*:}.dsc" "$2" >/dev/null) || return
                 echo "$version"
                 return
             fi

@@ -11,7 +11,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$(cd "$here/../.." && pwd)
 . "$root/tools/setup.sh"
 
-install_missing "${build_packages[@]}" "${windows_packages[@]}" "${test_packages[@]}"
+install_missing "${build_packages[@]}" "${test_packages[@]}"
 if [ "${1:-}" = --if-built ]; then
     shift
     if ! "$here/sysroot.sh" --find >/dev/null; then
@@ -20,7 +20,7 @@ if [ "${1:-}" = --if-built ]; then
         exit 0
     fi
 fi
-"$here/build.sh" --tests
+"$here/build.sh" --tests # installs the rest
 sysroot=$("$here/sysroot.sh")
 build=$root/build-windows
 
