@@ -9,7 +9,6 @@ extern "C" {
 }
 #include <setupapi.h>
 
-#include <algorithm>
 #include <vector>
 
 namespace zpsg::platform {
@@ -95,49 +94,19 @@ public:
 
     // The class driver completes the whole report or fails; a short one is a failure.
     bool getInputReport(std::span<std::uint8_t> report) override {
-        std::vector<std::uint8_t> buffer(report.begin(), report.end());
-        if (!transfer("HidD_GetInputReport", HidD_GetInputReport, handles_.reading, buffer, longest_.input)) {
-            return false;
-        }
-        std::copy_n(buffer.begin(), report.size(), report.begin());
-        return true;
+        return done("HidD_GetInputReport",
+                    HidD_GetInputReport(handles_.reading, report.data(), length(report)));
     }
 
     bool setOutputReport(std::span<const std::uint8_t> report) override {
-        std::vector<std::uint8_t> buffer(report.begin(), report.end());
-        return transfer("HidD_SetOutputReport", HidD_SetOutputReport, handles_.writing, buffer,
-                        longest_.output);
+        // The call takes a writable buffer.
+        std::vector<std::uint8_t> copy(report.begin(), report.end());
+        return done("HidD_SetOutputReport",
+                    HidD_SetOutputReport(handles_.writing, copy.data(), length(report)));
     }
 
 private:
-    /// Lengths in bytes with the id; 0 when the class driver doesn't tell.
-    struct Longest {
-        std::size_t input = 0;
-        std::size_t output = 0;
-    };
-
-    static Longest longestOf(HANDLE device) {
-        PHIDP_PREPARSED_DATA data = nullptr;
-        if (HidD_GetPreparsedData(device, &data) == FALSE) {
-            return {};
-        }
-        HIDP_CAPS caps{};
-        const bool known = HidP_GetCaps(data, &caps) == HIDP_STATUS_SUCCESS;
-        HidD_FreePreparsedData(data);
-        return known ? Longest{caps.InputReportByteLength, caps.OutputReportByteLength} : Longest{};
-    }
-
-    // Some class drivers want room for the longest of the device's reports, whichever is meant.
-    static bool transfer(const char *name, BOOLEAN(__stdcall *call)(HANDLE, PVOID, ULONG), HANDLE device,
-                         std::vector<std::uint8_t> &buffer, std::size_t longest) {
-        const auto tried = [&] { return call(device, buffer.data(), static_cast<ULONG>(buffer.size())); };
-        BOOLEAN result = tried();
-        if (result == FALSE && GetLastError() == ERROR_INVALID_PARAMETER && buffer.size() < longest) {
-            buffer.resize(longest);
-            result = tried();
-        }
-        return done(name, result);
-    }
+    static ULONG length(std::span<const std::uint8_t> report) { return static_cast<ULONG>(report.size()); }
 
     static bool done(const char *call, BOOLEAN result) {
         if (result == FALSE) {
@@ -147,7 +116,6 @@ private:
     }
 
     HidHandles handles_;
-    Longest longest_ = longestOf(handles_.attributes);
 };
 
 } // namespace
