@@ -53,5 +53,12 @@ x86_64-w64-mingw32-gcc-posix -O1 -I"$cache/hidapi/hidapi" -c "$cache/hidapi/wind
 "$compiler" -std=c++20 "${warnings[@]}" -shared -static -o "$output/cfgmgr32.dll" \
     "$here/Cfgmgr32.cpp" "$here/Cfgmgr32.def" -lsetupapi
 
-exec tools/vusb/guest.sh --timeout 570 --env "WINEPREFIX=$output/prefix" --env "ZPSG_HID_HELPER=$output/hid-helper.exe" \
-    "$here/in-guest.sh" "$@"
+in_guest() {
+    tools/vusb/guest.sh --timeout 290 --env "WINEPREFIX=$output/prefix" --env "ZPSG_HID_HELPER=$output/hid-helper.exe" \
+        "$here/in-guest.sh" "$@"
+}
+# On a busy machine wine now and then misses a device node that comes (once in eight runs). A fault of ours fails twice.
+in_guest "$@" || {
+    echo "Once more, in a new guest:"
+    in_guest "$@"
+}
