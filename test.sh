@@ -53,4 +53,4 @@ if [ "$failed" -ne 0 ]; then
     exit 1
 fi
 echo "== All tests passed"
-[ -n "$all" ] || echo "   ./test.sh --all adds the sanitizers, the lint and the Windows program, which is what has to pass before a change lands."
+[ -n "$all" ] || echo "   Before a change lands, ./test.sh --all has to pass: with the sanitizers, the lint and the Windows program."

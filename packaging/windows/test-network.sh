@@ -53,7 +53,8 @@ keyfile $work/broker.key
 END
 PATH=$PATH:/usr/sbin mosquitto -c "$work/broker.conf" >"$work/broker.log" 2>&1 &
 children+=($!)
-sleep 2
+broker_answers() { mosquitto_pub -h 127.0.0.1 -p "$port" --cafile "$work/authority.crt" -t there -n; }
+within 20 broker_answers 2>/dev/null || cat "$work/broker.log"
 mosquitto_sub -h 127.0.0.1 -p "$port" --cafile "$work/authority.crt" -t '#' >"$work/heard" &
 children+=($!)
 
